@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string_view>
+
+#include "forms/geometry.h"
+
+struct Color {
+    std::uint8_t red = 0;
+    std::uint8_t green = 0;
+    std::uint8_t blue = 0;
+
+    friend bool operator==(const Color&, const Color&) = default;
+};
+
+// "MS Sans Serif", or the face that stands for it on the platform.
+struct Font {
+    int height = 8.25_pt;  // of the em, in twips
+    bool bold = false;
+
+    friend bool operator==(const Font&, const Font&) = default;
+};
+
+// A picture of the platform's own, drawn at its own size: a pixel of it is a pixel of the page.
+class Picture {
+  public:
+    virtual ~Picture() = default;
+    virtual int WidthInPixels() const = 0;
+    virtual int HeightInPixels() const = 0;
+};
+
+using PicturePtr = std::shared_ptr<const Picture>;
+
+// What a form paints on. Positions are twips of the page.
+class Canvas {
+  public:
+    virtual ~Canvas() = default;
+
+    virtual void DrawPicture(const Picture& picture, Point top_left) = 0;
+    // A filled box; radius rounds its corners (0: square).
+    virtual void FillBox(const Rect& box, Color color, int radius) = 0;
+    // The outline of a box, one pixel wide, inside the box.
+    virtual void FrameBox(const Rect& box, Color color, int radius) = 0;
+    virtual void FillPolygon(std::span<const Point> corners, Color color) = 0;
+    virtual void DrawLine(Point from, Point to, int width, Color color) = 0;
+    // One line of UTF-8 text without any line break; top_left is the corner of its cell.
+    virtual void DrawTextLine(Point top_left, std::string_view line, const Font& font, Color color) = 0;
+};

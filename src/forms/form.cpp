@@ -1,0 +1,42 @@
+#include "forms/form.h"
+
+#include <algorithm>
+
+#include "forms/stage.h"
+
+Form::Form(Stage& stage) : stage_(stage) {}
+
+bool Form::visible() const {
+    return stage_.IsShown(*this);
+}
+
+void Form::Show() {
+    stage_.Show(*this);
+}
+
+void Form::Hide() {
+    stage_.Hide(*this);
+}
+
+void Form::SetPicture(PicturePtr picture) {
+    picture_ = std::move(picture);
+    Damage({0, 0, kPageWidth, kPageHeight});
+}
+
+void Form::Damage(const Rect& box) const {
+    if (stage_.front() == this) stage_.AddDamage(box);
+}
+
+void Form::Paint(Canvas& canvas, const Rect& clip) const {
+    if (picture_) canvas.DrawPicture(*picture_, {0, 0});
+    for (const Control* control : controls_) {
+        if (control->visible() && control->Painted().Meets(clip)) control->Paint(canvas);
+    }
+}
+
+Control* Form::ControlAt(Point point) const {
+    const auto found = std::find_if(controls_.rbegin(), controls_.rend(), [point](const Control* control) {
+        return control->Reacts() && control->Reach().Contains(point);
+    });
+    return found == controls_.rend() ? nullptr : *found;
+}

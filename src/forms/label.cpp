@@ -1,0 +1,56 @@
+#include "forms/label.h"
+
+#include "forms/platform.h"
+
+Label::Label(Form& form, const Rect& box, std::string caption, const LabelStyle& style)
+    : Control(form, box), caption_(std::move(caption)), style_(style) {
+    FollowText();
+}
+
+void Label::SetCaption(std::string caption) {
+    if (caption == caption_) return;
+    caption_ = std::move(caption);
+    layout_.reset();
+    FollowText();
+    if (visible()) Damage();
+}
+
+void Label::FollowText() {
+    if (style_.auto_size == AutoSize::kNone) return;
+    const int width = LayOutUnwrapped(platform(), caption_, style_.font).Width();
+    const bool keep_right = style_.auto_size == AutoSize::kKeepRight;
+    SetBox({keep_right ? box().right() - width : box().left, box().top, width, box().height});
+}
+
+Rect Label::TextBox() const {
+    return {box().left - style_.overhang, box().top, box().width + 2 * style_.overhang, box().height};
+}
+
+TextLayout Label::Layout() const {
+    const Size size{TextBox().width, TextBox().height};
+    if (!layout_ || layout_box_ != size) {
+        layout_ = LayOutInBox(platform(), caption_, style_.font, size);
+        layout_box_ = size;
+    }
+    return *layout_;
+}
+
+void Label::Paint(Canvas& canvas) const {
+    if (style_.fill) canvas.FillBox(Reach(), *style_.fill, style_.radius);
+    if (style_.frame) canvas.FrameBox(Reach(), *style_.frame, style_.radius);
+    if (!caption_.empty()) PaintText(canvas);
+}
+
+void Label::PaintText(Canvas& canvas) const {
+    const TextLayout layout = Layout();
+    const Rect place = TextBox();
+    int top = place.top;
+    if (style_.middle) top += (place.height - layout.Height()) / 2;
+    for (const TextLine& line : layout.lines) {
+        int left = place.left;
+        if (style_.align == Align::kCenter) left += (place.width - line.width) / 2;
+        if (style_.align == Align::kRight) left += place.width - line.width;
+        canvas.DrawTextLine({left, top}, line.text, layout.font, style_.color);
+        top += layout.line_height;
+    }
+}

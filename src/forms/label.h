@@ -1,0 +1,51 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "forms/control.h"
+#include "forms/text_layout.h"
+
+enum class Align { kLeft, kCenter, kRight };
+
+// Whether a label's width follows its text, and which of its edges then stays where it is.
+enum class AutoSize { kNone, kKeepLeft, kKeepRight };
+
+struct LabelStyle {
+    Font font{};
+    Color color{};
+    Align align = Align::kLeft;
+    bool middle = false;          // the text stands at half height, else at the top
+    std::optional<Color> fill{};  // transparent without
+    std::optional<Color> frame{};
+    int radius = 0;
+    int outset = 0;    // how far fill, frame and pointer zone pass the text's box on every side
+    int overhang = 0;  // how far the text alone may pass its box on the left and on the right
+    AutoSize auto_size = AutoSize::kNone;
+};
+
+// A text in a box, wrapped; where it would not fit it is drawn smaller, never clipped.
+class Label final : public Control {
+  public:
+    Label(Form& form, const Rect& box, std::string caption, const LabelStyle& style);
+
+    const std::string& caption() const { return caption_; }
+    const LabelStyle& style() const { return style_; }
+    void SetCaption(std::string caption);
+
+    Rect Reach() const override { return box().Grown(style_.outset); }
+    Rect Painted() const override { return Reach().United(TextBox()); }
+    void Paint(Canvas& canvas) const override;
+    // The text as it is painted.
+    TextLayout Layout() const;
+
+  private:
+    Rect TextBox() const;
+    void FollowText();
+    void PaintText(Canvas& canvas) const;
+
+    std::string caption_;
+    LabelStyle style_;
+    mutable std::optional<TextLayout> layout_;
+    mutable Size layout_box_;
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "forms/label.h"
+
+// What all screens share of the program's looks.
+
+inline constexpr Color kBlack{0, 0, 0};
+inline constexpr Color kInk{38, 50, 82};
+
+inline constexpr Color kArrowFill{255, 214, 102};
+inline constexpr Color kHeldArrowFill{240, 176, 48};
+inline constexpr Color kArrowFrame{154, 103, 10};
+inline constexpr Color kArrowMark{92, 58, 0};
+inline constexpr int kArrowRadius = 3_px;
+
+inline const LabelStyle kButton{.font = {8.25_pt, true},
+                                .color = kInk,
+                                .align = Align::kCenter,
+                                .middle = true,
+                                .fill = Color{255, 224, 130},
+                                .frame = Color{154, 103, 10},
+                                .radius = 5_px,
+                                .outset = 3_px};

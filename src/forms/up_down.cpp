@@ -1,0 +1,50 @@
+#include "forms/up_down.h"
+
+#include <algorithm>
+#include <array>
+
+#include "forms/label.h"
+#include "forms/look.h"
+
+UpDown::UpDown(Form& form, const Rect& box, const Range& range, const Label& answer)
+    : Control(form, box), answer_(answer), range_(range), value_(range.minimum) {}
+
+void UpDown::SetValue(int value) {
+    const int bounded = std::clamp(value, range_.minimum, range_.maximum);
+    if (bounded == value_) return;
+    value_ = bounded;
+    if (on_change) on_change();
+}
+
+void UpDown::Step(int direction) {
+    const int next = value_ + direction * increment_;
+    if (next >= range_.minimum && next <= range_.maximum) SetValue(next);
+}
+
+void UpDown::SetHeldHalf(int direction) {
+    if (direction == held_half_) return;
+    held_half_ = direction;
+    Damage();
+}
+
+bool UpDown::TakesWheelAt(Point point) const {
+    return Reacts() && (box().Contains(point) || (answer_.visible() && answer_.Reach().Contains(point)));
+}
+
+void UpDown::Paint(Canvas& canvas) const {
+    PaintHalf(canvas, 1);
+    PaintHalf(canvas, -1);
+}
+
+void UpDown::PaintHalf(Canvas& canvas, int direction) const {
+    const int height = box().height / 2;
+    const Rect half{box().left, direction > 0 ? box().top : box().top + height, box().width, height};
+    canvas.FillBox(half, held_half_ == direction ? kHeldArrowFill : kArrowFill, kArrowRadius);
+    canvas.FrameBox(half, kArrowFrame, kArrowRadius);
+    const Point middle{half.left + half.width / 2, half.top + half.height / 2};
+    const int reach = std::min(half.width, half.height) / 4;
+    const std::array<Point, 3> triangle{Point{middle.x - 3 * reach / 2, middle.y + direction * reach},
+                                        Point{middle.x + 3 * reach / 2, middle.y + direction * reach},
+                                        Point{middle.x, middle.y - direction * reach}};
+    canvas.FillPolygon(triangle, kArrowMark);
+}

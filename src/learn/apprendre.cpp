@@ -1,0 +1,58 @@
+#include "learn/apprendre.h"
+
+namespace {
+
+constexpr Color kTitleRule{70, 110, 190};
+constexpr Color kPanelRule{190, 200, 220};
+
+const LabelStyle kTitle{.font = {18.0_pt, true}, .color = kInk, .align = Align::kCenter, .middle = true};
+
+// Rows 0 to 10 are small and evenly spaced; the last, for twelve times, is large.
+constexpr int kLastRow = 11;
+
+Rect NumberBox(int i) {
+    if (i == kLastRow + 1) return {76_px, 402_px, 62_px, 57_px};
+    const int row = i == 0 ? 0 : i - 1;
+    return {76_px, 56_px + row * 31_px, 53_px, 25_px};
+}
+
+Rect ProductBox(int i) {
+    const int row = i / 3;
+    const int top = row == kLastRow ? 418_px : 56_px + row * 31_px;
+    return {154_px + i % 3 * 17_px, top, 36_px, 25_px};
+}
+
+}  // namespace
+
+Apprendre::Apprendre(Stage& stage, SharedState& shared, Form& depart)
+    : form(stage),
+      titre(form, {120_px, 8_px, 400_px, 30_px}, "", kTitle),
+      multiplicateur(form, 13, NumberBox),
+      resultat(form, 36, ProductBox),
+      Line1(form, {160_px, 39_px}, {480_px, 39_px}, 1_px, kTitleRule),
+      Line2(form, {160_px, 42_px}, {480_px, 42_px}, 1_px, kTitleRule),
+      Line3(form, {246_px, 82_px}, {622_px, 82_px}, 1_px, kPanelRule),
+      Line4(form, {246_px, 199_px}, {622_px, 199_px}, 1_px, kPanelRule),
+      Line5(form, {246_px, 299_px}, {622_px, 299_px}, 1_px, kPanelRule),
+      Line6(form, {246_px, 394_px}, {622_px, 394_px}, 1_px, kPanelRule),
+      Line7(form, {246_px, 465_px}, {530_px, 465_px}, 1_px, kPanelRule),
+      factoring(form, shared),
+      retour(form, {552_px, 459_px, 76_px, 17_px}, "RETOUR", kButton),
+      sounds_(shared.sounds),
+      depart_(depart) {
+    form.on_activate = [this] { Form_Activate(); };
+    retour.on_click = [this] { retour_Click(); };
+}
+
+void Apprendre::Form_Activate() {
+    factoring.NewFactoringQuestion();
+}
+
+void Apprendre::retour_Click() {
+    sounds_.ClickSoundEnabled = 0;
+    sounds_.PlayNavigationSound("3");
+    factoring.Leave();
+    depart_.Show();
+    form.Hide();
+    for (Image& cell : resultat) cell.SetPicture(nullptr);
+}

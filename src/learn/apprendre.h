@@ -1,0 +1,27 @@
+#pragma once
+
+#include "forms/control_array.h"
+#include "forms/form.h"
+#include "learn/factoring.h"
+
+// The learning screen: one table as pictures of digits, which the start screen draws, and four exercises on
+// it.
+class Apprendre {
+  public:
+    Apprendre(Stage& stage, SharedState& shared, Form& depart);
+
+    Form form;
+    Label titre;
+    ControlArray<Image> multiplicateur;  // the table's number: members 1 to 11 small, 12 large
+    ControlArray<Image> resultat;        // the products: three cells for each of the twelve rows
+    Line Line1, Line2, Line3, Line4, Line5, Line6, Line7;
+    FactoringPanel factoring;
+    Label retour;
+
+  private:
+    void Form_Activate();
+    void retour_Click();
+
+    Sounds& sounds_;
+    Form& depart_;
+};

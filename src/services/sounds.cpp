@@ -1,0 +1,44 @@
+#include "services/sounds.h"
+
+#include "forms/form.h"
+#include "forms/platform.h"
+#include "services/data_folder.h"
+#include "support/number_text.h"
+
+namespace {
+
+// The file numbers run 1 to last and round again.
+int Advance(int& counter, int last) {
+    counter = counter >= last ? 1 : counter + 1;
+    return counter;
+}
+
+}  // namespace
+
+void Sounds::PlayClickSound() {
+    const int number = Advance(ClickSoundCounter, 10);
+    if (ClickSoundEnabled == 1) Play(Digits(number));
+}
+
+void Sounds::PlayNavigationSound(std::string_view name) {
+    Play(std::string(name));
+}
+
+void Sounds::PlayVictorySound() {
+    Play(Digits(Advance(VictorySoundCounter, 4)) + ".vic");
+}
+
+void Sounds::PlayDefeatSound() {
+    Play(Digits(Advance(DefeatSoundCounter, 4)) + ".def");
+}
+
+void Sounds::Play(const std::string& name) {
+    platform_.StopSound();
+    platform_.StartSound(DataFile(platform_, name));
+}
+
+void ReturnToStart(Sounds& sounds, Form& start, Form& left) {
+    sounds.PlayNavigationSound("3");
+    start.Show();
+    left.Hide();
+}

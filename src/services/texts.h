@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+
+// Texts that exercises of several screens have in common.
+
+inline const std::string kUnanswered = "??";
+inline const std::string kContinueLine = "\rCliquez sur Continuer pour un autre exercice.";
+inline const std::string kEnterAnswer =
+    "Entrez votre réponse grâce aux flèches puis cliquez sur cette réponse pour la correction.";
+inline const std::string kEnterAnswers =
+    "Entrez vos réponses grâce aux flèches puis cliquez sur ces réponses pour la correction.";

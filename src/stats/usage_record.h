@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "stats/counters.h"
+
+class Platform;
+
+// The counters and the values that lead them in their file, which are carried along and never shown.
+struct UsageRecord {
+    TaggedNumber reserved_value;
+    std::string reserved_text = std::string(10, ' ');
+    Counters counters;
+
+    friend bool operator==(const UsageRecord&, const UsageRecord&) = default;
+};
+
+// The bytes of a record, and a record from bytes. Any bytes can be read: what they lack stays zero (the text:
+// blanks), an unknown tag counts as empty.
+std::vector<std::byte> ToBytes(const UsageRecord& record);
+UsageRecord FromBytes(std::span<const std::byte> bytes);
+
+// The file of the counters. Both throw RunTimeError, naming the file, when it cannot be read or written.
+UsageRecord LoadUsageRecord(const std::filesystem::path& file);
+// Marks the record as saved once. Bytes of the old file past the end of the record are kept.
+void SaveUsageRecord(Platform& platform, const std::filesystem::path& file, UsageRecord& record);

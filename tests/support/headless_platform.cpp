@@ -1,0 +1,100 @@
+#include "support/headless_platform.h"
+
+#include <algorithm>
+#include <fstream>
+#include <random>
+#include <sstream>
+
+#include "support/run_time_error.h"
+
+namespace {
+
+std::filesystem::path NewFolder() {
+    static int number = 0;
+    const auto unique = std::to_string(std::random_device{}()) + "-" + std::to_string(++number);
+    const auto folder = std::filesystem::temp_directory_path() / ("onze tables é " + unique);
+    std::filesystem::create_directories(folder / "datas");
+    return folder;
+}
+
+}  // namespace
+
+HeadlessPlatform::HeadlessPlatform() : folder(NewFolder()) {
+    WriteData("18", std::string("\2\0\0\0          \2\0\0\0\2\0\0\0\2\0\0\0", 26) + std::string(94, '\0'));
+    for (const char* picture : {"11", "12", "13", "14", "15", "16"}) WriteData(picture, "picture");
+}
+
+HeadlessPlatform::~HeadlessPlatform() {
+    std::error_code ignored;
+    std::filesystem::remove_all(folder, ignored);
+}
+
+PicturePtr HeadlessPlatform::LoadPicture(const std::filesystem::path& file) {
+    if (!std::filesystem::exists(file)) throw FileError("Image introuvable ou illisible", file);
+    calls.push_back("load " + file.filename().string());
+    return std::make_shared<HeadlessPicture>(file.filename().string(), 0, 0, 640, 480);
+}
+
+PicturePtr HeadlessPlatform::LoadPicture(std::span<const std::byte>) {
+    return std::make_shared<HeadlessPicture>("memory", 0, 0, 535, 113);
+}
+
+PicturePtr HeadlessPlatform::ClipPicture(const PicturePtr& picture, int x, int y, int width, int height) {
+    const auto& whole = static_cast<const HeadlessPicture&>(*picture);
+    if (x < 0 || y < 0 || x + width > whole.width || y + height > whole.height) {
+        throw RunTimeError("Découpe hors de l'image.");
+    }
+    return std::make_shared<HeadlessPicture>(whole.source, x, y, width, height);
+}
+
+Size HeadlessPlatform::MeasureText(std::string_view line, const Font& font) {
+    const auto letters = std::count_if(line.begin(), line.end(), [](char c) { return (c & 0xC0) != 0x80; });
+    return {static_cast<int>(letters) * font.height * (font.bold ? 11 : 10) / 20, font.height * 6 / 5};
+}
+
+void HeadlessPlatform::StartSound(const std::filesystem::path& file) {
+    calls.push_back("start " + file.filename().string());
+    sounds.push_back(file.filename().string());
+}
+
+void HeadlessPlatform::ReplaceContent(const std::filesystem::path& file, std::span<const std::byte> bytes) {
+    calls.push_back("write " + file.filename().string());
+    std::ofstream stream(file, std::ios::binary);
+    for (const std::byte byte : bytes) stream.put(static_cast<char>(byte));
+}
+
+Platform::WindowHandle HeadlessPlatform::FindWindowA(const char* class_name, const char* title) {
+    calls.push_back("find <" + std::string(class_name) + "> <" + title + ">");
+    return 77;
+}
+
+void HeadlessPlatform::SetWindowPos(WindowHandle window, WindowHandle insert_after, int x, int y, int width,
+                                    int height, std::uint32_t flags) {
+    std::ostringstream call;
+    call << "place " << window << " after " << insert_after << " at " << x << "," << y << "," << width << ","
+         << height << " flags " << std::hex << flags;
+    calls.push_back(call.str());
+}
+
+int HeadlessPlatform::EnumDisplaySettingsA(std::int32_t mode, DisplayModeRecord& record) {
+    calls.push_back("mode " + std::to_string(mode));
+    if (mode >= modes) return 0x10000;  // only the low 16 bits of a result count
+    record.dmBitsPerPel = static_cast<std::uint32_t>(8 * (mode + 1));
+    return 1;
+}
+
+void HeadlessPlatform::ChangeDisplaySettingsA(const DisplayModeRecord& record, std::uint32_t flags) {
+    std::ostringstream call;
+    call << "change " << record.dmPelsWidth << "x" << record.dmPelsHeight << "x" << record.dmBitsPerPel
+         << " fields " << std::hex << record.dmFields << " flags " << flags;
+    calls.push_back(call.str());
+}
+
+void HeadlessPlatform::WriteData(const std::string& name, const std::string& bytes) const {
+    std::ofstream(folder / "datas" / name, std::ios::binary) << bytes;
+}
+
+std::string HeadlessPlatform::ReadData(const std::string& name) const {
+    std::ifstream stream(folder / "datas" / name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}

@@ -1,0 +1,85 @@
+#include "support/pupil.h"
+
+#include <algorithm>
+
+#include "services/data_folder.h"
+#include "stats/usage_record.h"
+
+namespace {
+
+Point Middle(const Rect& box) {
+    return {box.left + box.width / 2, box.top + box.height / 2};
+}
+
+}  // namespace
+
+Pupil::Pupil() : program(platform, random), screens(program.screens()) {
+    program.Load();
+}
+
+void Pupil::MoveOnto(const Control& control) {
+    program.stage().Move(Middle(control.box()));
+}
+
+void Pupil::Click(const Control& control) {
+    const Form* front = program.stage().front();
+    ASSERT_TRUE(front && front->ControlAt(Middle(control.box())) == &control) << "out of the pointer's reach";
+    Tap(control);
+}
+
+void Pupil::Tap(const Control& control) {
+    MoveOnto(control);
+    program.stage().Press(Middle(control.box()));
+    program.stage().Release(Middle(control.box()));
+}
+
+void Pupil::Step(const UpDown& arrows, int times) {
+    const Rect& box = arrows.box();
+    const Point half{box.left + box.width / 2, times > 0 ? box.top + 1_px : box.bottom() - 1_px};
+    for (int i = 0; i < std::abs(times); ++i) {
+        program.stage().Press(half);
+        program.stage().Release(half);
+    }
+}
+
+void Pupil::Turn(const UpDown& arrows, int value) {
+    const int direction = value > arrows.value() ? 1 : -1;
+    while (arrows.value() * direction < value * direction) {
+        const int before = arrows.value();
+        Step(arrows, direction);
+        ASSERT_NE(arrows.value(), before) << "the arrows stop before " << value;
+    }
+}
+
+void Pupil::Wait(std::int64_t milliseconds) {
+    for (std::int64_t i = 0; i < milliseconds; ++i) {
+        ++platform.now;
+        program.stage().RunDue();
+    }
+}
+
+std::vector<std::string> Pupil::Heard() {
+    const std::vector<std::string> since(platform.sounds.begin() + static_cast<std::ptrdiff_t>(heard_),
+                                         platform.sounds.end());
+    heard_ = platform.sounds.size();
+    return since;
+}
+
+std::vector<std::string> Pupil::Seen() const {
+    TextCanvas canvas;
+    program.stage().Paint(canvas, {0, 0, kPageWidth, kPageHeight});
+    return canvas.texts;
+}
+
+bool Pupil::Sees(const Form& form) const {
+    return program.stage().front() == &form;
+}
+
+Counters Pupil::SavedCounters() const {
+    return LoadUsageRecord(DataFile(platform, "18")).counters;
+}
+
+Counters Pupil::Quit() {
+    Click(screens.depart.fin);
+    return SavedCounters();
+}

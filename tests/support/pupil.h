@@ -1,0 +1,51 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "forms/label.h"
+#include "forms/up_down.h"
+#include "shell/program.h"
+#include "support/headless_platform.h"
+#include "support/scripted_random.h"
+
+// The whole program as a pupil uses it: with the pointer, eyes and ears.
+class Pupil {
+  public:
+    // Starts the program.
+    Pupil();
+
+    // Moves onto a control, presses and releases. A control that cannot be found under the pointer at its
+    // middle gets no click; Click() then fails the test, Tap() does not mind.
+    void Click(const Control& control);
+    void Tap(const Control& control);
+    void MoveOnto(const Control& control);
+    // Presses an arrow's upper (positive) or lower half so many times.
+    void Step(const UpDown& arrows, int times);
+    // Turns the arrow to a value, one press at a time, up or down by its increment.
+    void Turn(const UpDown& arrows, int value);
+    // Lets time pass, a millisecond at a time.
+    void Wait(std::int64_t milliseconds);
+
+    // The names of the sounds started since the last call.
+    std::vector<std::string> Heard();
+    // The texts of the page shown, top controls last.
+    std::vector<std::string> Seen() const;
+    bool Sees(const Form& form) const;
+
+    HeadlessPlatform platform;
+    ScriptedRandom random;
+    Program program;
+    Screens& screens;
+
+    Counters SavedCounters() const;
+    // Clicks SORTIE and reads what was saved.
+    Counters Quit();
+
+  private:
+    std::size_t heard_ = 0;
+};
+
+using Names = std::vector<std::string>;
