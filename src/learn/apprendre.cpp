@@ -37,6 +37,9 @@ Apprendre::Apprendre(Stage& stage, SharedState& shared, Form& depart)
       Line6(form, {246_px, 394_px}, {622_px, 394_px}, 1_px, kPanelRule),
       Line7(form, {246_px, 465_px}, {530_px, 465_px}, 1_px, kPanelRule),
       factoring(form, shared),
+      multiple(form, shared),
+      letter_code(form, shared),
+      missing_sign(form, shared),
       retour(form, {552_px, 459_px, 76_px, 17_px}, "RETOUR", kButton),
       sounds_(shared.sounds),
       depart_(depart) {
@@ -45,7 +48,11 @@ Apprendre::Apprendre(Stage& stage, SharedState& shared, Form& depart)
 }
 
 void Apprendre::Form_Activate() {
+    multiple.StepByTable();
     factoring.NewFactoringQuestion();
+    multiple.NewMultipleQuestion();
+    letter_code.NewLetterCodeQuestion();
+    missing_sign.NewMissingSignQuestion();
 }
 
 void Apprendre::retour_Click() {

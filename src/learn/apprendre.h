@@ -3,6 +3,9 @@
 #include "forms/control_array.h"
 #include "forms/form.h"
 #include "learn/factoring.h"
+#include "learn/letter_code.h"
+#include "learn/missing_sign.h"
+#include "learn/multiple.h"
 
 // The learning screen: one table as pictures of digits, which the start screen draws, and four exercises on
 // it.
@@ -16,6 +19,9 @@ class Apprendre {
     ControlArray<Image> resultat;        // the products: three cells for each of the twelve rows
     Line Line1, Line2, Line3, Line4, Line5, Line6, Line7;
     FactoringPanel factoring;
+    MultiplePanel multiple;
+    LetterCodePanel letter_code;
+    MissingSignPanel missing_sign;
     Label retour;
 
   private:

@@ -47,8 +47,7 @@ void FactoringPanel::Leave() {
 }
 
 void FactoringPanel::fleche_Change() {
-    sounds().PlayClickSound();
-    ui.chiffre.SetCaption(Digits(ui.fleche.value()));
+    ShowNumber(ui.fleche, ui.chiffre);
 }
 
 void FactoringPanel::chiffre_Click() {

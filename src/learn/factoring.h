@@ -3,7 +3,6 @@
 #include <string>
 
 #include "learn/panel.h"
-#include "services/texts.h"
 
 // A sum or a difference of two multiples of the table, the larger first in a difference, whose factor is
 // asked.

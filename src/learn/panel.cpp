@@ -1,23 +1,38 @@
 #include "learn/panel.h"
 
+#include "support/number_text.h"
+
 void Panel::CountExercise() {
     Raise(shared_.counters.TableExercises, table(), "TableExercises");
 }
 
-void Panel::CountRight() {
-    Raise(shared_.counters.TableRight, table(), "TableRight");
+void Panel::Count(bool right) {
+    if (right) {
+        Raise(shared_.counters.TableRight, table(), "TableRight");
+    } else {
+        Raise(shared_.counters.TableWrong, table(), "TableWrong");
+    }
 }
 
-void Panel::CountWrong() {
-    Raise(shared_.counters.TableWrong, table(), "TableWrong");
+void Panel::Sound(bool right) {
+    if (right) {
+        sounds().PlayVictorySound();
+    } else {
+        sounds().PlayDefeatSound();
+    }
 }
 
 void Panel::SoundAndCount(bool right) {
-    if (right) {
-        sounds().PlayVictorySound();
-        CountRight();
-    } else {
-        sounds().PlayDefeatSound();
-        CountWrong();
-    }
+    Sound(right);
+    Count(right);
+}
+
+void Panel::CountAndSound(bool right) {
+    Count(right);
+    Sound(right);
+}
+
+void Panel::ShowNumber(const UpDown& arrows, Label& answer) {
+    sounds().PlayClickSound();
+    answer.SetCaption(Digits(arrows.value()));
 }

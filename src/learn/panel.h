@@ -1,7 +1,10 @@
 #pragma once
 
+#include <initializer_list>
+
 #include "forms/look.h"
 #include "forms/up_down.h"
+#include "services/texts.h"
 #include "stats/shared_state.h"
 
 // What the four panels of the learning screen have in common.
@@ -26,6 +29,10 @@ inline LabelStyle AutoSized(LabelStyle style, AutoSize auto_size) {
     return style;
 }
 
+inline void SetAllVisible(bool visible, std::initializer_list<Control*> controls) {
+    for (Control* control : controls) control->SetVisible(visible);
+}
+
 class Panel {
   protected:
     explicit Panel(SharedState& shared) : shared_(shared) {}
@@ -35,12 +42,16 @@ class Panel {
     SharedState& shared() const { return shared_; }
 
     void CountExercise();
-    void CountRight();
-    void CountWrong();
-
-    // The sound of a verdict, then its counter.
+    // The verdict on an answer: its sound and its counter, in one order or the other.
     void SoundAndCount(bool right);
+    void CountAndSound(bool right);
+
+    // An arrow's change: its click, and its value as bare digits in its answer.
+    void ShowNumber(const UpDown& arrows, Label& answer);
 
   private:
+    void Sound(bool right);
+    void Count(bool right);
+
     SharedState& shared_;
 };

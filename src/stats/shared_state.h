@@ -13,6 +13,5 @@ struct SharedState {
     Counters& counters;
     int CurrentTable = kFirstTable;  // 2 to 12, chosen on the start screen
     int MembershipAnswer = 0;
-    std::string NoteName{};         // scratch text of the report and of the note exercise
-    std::string SignExplanation{};  // scratch text of the missing-sign exercise
+    std::string NoteName{};  // scratch text of the report and of the exercises screen
 };

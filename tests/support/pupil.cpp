@@ -13,7 +13,9 @@ Point Middle(const Rect& box) {
 
 }  // namespace
 
-Pupil::Pupil() : program(platform, random), screens(program.screens()) {
+Pupil::Pupil(const std::function<void(HeadlessPlatform&)>& prepare)
+    : program(platform, random), screens(program.screens()) {
+    prepare(platform);
     program.Load();
 }
 

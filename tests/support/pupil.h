@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -14,8 +15,9 @@
 // The whole program as a pupil uses it: with the pointer, eyes and ears.
 class Pupil {
   public:
-    // Starts the program.
-    Pupil();
+    // Starts the program, in a data folder that prepare has changed.
+    Pupil() : Pupil([](HeadlessPlatform&) {}) {}
+    explicit Pupil(const std::function<void(HeadlessPlatform&)>& prepare);
 
     // Moves onto a control, presses and releases. A control that cannot be found under the pointer at its
     // middle gets no click; Click() then fails the test, Tap() does not mind.

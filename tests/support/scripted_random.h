@@ -1,7 +1,7 @@
 #pragma once
 
 #include <deque>
-#include <initializer_list>
+#include <vector>
 
 #include "support/random.h"
 
@@ -19,7 +19,9 @@ class ScriptedRandom final : public Random {
   public:
     ~ScriptedRandom() override;
 
-    void Expect(std::initializer_list<ScriptedDraw> draws) { script_.insert(script_.end(), draws); }
+    void Expect(const std::vector<ScriptedDraw>& draws) {
+        script_.insert(script_.end(), draws.begin(), draws.end());
+    }
     bool done() const { return script_.empty(); }
 
     void Randomize() override;
