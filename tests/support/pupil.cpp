@@ -19,20 +19,29 @@ Pupil::Pupil(const std::function<void(HeadlessPlatform&)>& prepare)
     program.Load();
 }
 
+Point Pupil::On(const Control& control) const {
+    const Form* front = program.stage().front();
+    const Point middle = Middle(control.box());
+    if (!front || front->ControlAt(middle) == &control) return middle;
+    const Point corner{control.box().left + 1_px, control.box().top + 1_px};
+    return front->ControlAt(corner) == &control ? corner : middle;
+}
+
 void Pupil::MoveOnto(const Control& control) {
-    program.stage().Move(Middle(control.box()));
+    program.stage().Move(On(control));
 }
 
 void Pupil::Click(const Control& control) {
     const Form* front = program.stage().front();
-    ASSERT_TRUE(front && front->ControlAt(Middle(control.box())) == &control) << "out of the pointer's reach";
+    ASSERT_TRUE(front && front->ControlAt(On(control)) == &control) << "out of the pointer's reach";
     Tap(control);
 }
 
 void Pupil::Tap(const Control& control) {
-    MoveOnto(control);
-    program.stage().Press(Middle(control.box()));
-    program.stage().Release(Middle(control.box()));
+    const Point point = On(control);
+    program.stage().Move(point);
+    program.stage().Press(point);
+    program.stage().Release(point);
 }
 
 void Pupil::Step(const UpDown& arrows, int times) {

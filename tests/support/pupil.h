@@ -19,8 +19,8 @@ class Pupil {
     Pupil() : Pupil([](HeadlessPlatform&) {}) {}
     explicit Pupil(const std::function<void(HeadlessPlatform&)>& prepare);
 
-    // Moves onto a control, presses and releases. A control that cannot be found under the pointer at its
-    // middle gets no click; Click() then fails the test, Tap() does not mind.
+    // Moves onto a control, presses and releases. Click() fails the test when the pointer cannot find the
+    // control, Tap() does not mind.
     void Click(const Control& control);
     void Tap(const Control& control);
     void MoveOnto(const Control& control);
@@ -47,6 +47,9 @@ class Pupil {
     Counters Quit();
 
   private:
+    // The middle of a control, or its corner where another control covers the middle.
+    Point On(const Control& control) const;
+
     std::size_t heard_ = 0;
 };
 

@@ -1,0 +1,60 @@
+#include <gtest/gtest.h>
+
+#include "services/display_mode.h"
+#include "services/sounds.h"
+#include "support/headless_platform.h"
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+TEST(Sounds, EachCycleRunsRoundOnItsOwn) {
+    HeadlessPlatform platform;
+    Sounds sounds(platform);
+    for (int i = 0; i < 5; ++i) sounds.PlayVictorySound();
+    for (int i = 0; i < 6; ++i) sounds.PlayDefeatSound();
+    sounds.PlayVictorySound();
+    EXPECT_EQ(platform.sounds, (Names{"1.vic", "2.vic", "3.vic", "4.vic", "1.vic", "1.def", "2.def", "3.def",
+                                      "4.def", "1.def", "2.def", "2.vic"}));
+}
+
+TEST(Sounds, ClicksAreUsedUpBehindAClosedGate) {
+    HeadlessPlatform platform;
+    Sounds sounds(platform);
+    for (int i = 0; i < 3; ++i) sounds.PlayClickSound();  // closed at start-up
+    EXPECT_TRUE(platform.calls.empty());
+    sounds.ClickSoundEnabled = 1;
+    for (int i = 0; i < 8; ++i) sounds.PlayClickSound();
+    EXPECT_EQ(platform.sounds, (Names{"4", "5", "6", "7", "8", "9", "10", "1"}));
+    sounds.ClickSoundEnabled = 2;
+    sounds.PlayClickSound();
+    EXPECT_EQ(platform.sounds.size(), 8U);
+}
+
+TEST(Sounds, EachSoundStopsTheOneBefore) {
+    HeadlessPlatform platform;
+    Sounds sounds(platform);
+    sounds.PlayNavigationSound("5");
+    sounds.PlayDefeatSound();
+    EXPECT_EQ(platform.calls, (Names{"stop", "start 5", "stop", "start 1.def"}));
+}
+
+TEST(DisplayMode, WalksAllModesThenAsksForTheSizeAlone) {
+    HeadlessPlatform platform;
+    DisplayMode display(platform);
+    display.SetDisplayResolution(640, 480);
+    EXPECT_EQ(platform.calls,
+              (Names{"mode 0", "mode 1", "mode 2", "mode 3", "change 640x480x24 fields 180000 flags 0"}));
+}
+
+TEST(DisplayMode, RoundsHalvesToEven) {
+    HeadlessPlatform platform;
+    platform.modes = 0;
+    DisplayMode display(platform);
+    display.SetDisplayResolution(1024.5F, 767.5F);
+    display.SetDisplayResolution(1023.6F, 768.4F);
+    EXPECT_EQ(platform.calls, (Names{"mode 0", "change 1024x768x0 fields 180000 flags 0", "mode 0",
+                                     "change 1024x768x0 fields 180000 flags 0"}));
+}
+
+}  // namespace

@@ -1,0 +1,157 @@
+#include "support/pupil.h"
+#include "support/run_time_error.h"
+
+namespace {
+
+const std::string kChoose = "Cliquez sur une table";
+const std::string kReport = "Consulter le Bilan d'Utilisation";
+const std::string kLessons = "La MULTIPLICATION ? Qu'est-ce donc ?";
+const std::string kExercises = "Envie de vous exercer un peu ?";
+
+TEST(Depart, PromptFollowsThePointer) {
+    Pupil pupil;
+    auto& ui = pupil.screens.depart;
+    EXPECT_EQ(ui.label_table.caption(), "Cliquez sur une Table");
+    const std::vector<std::pair<const Control*, std::string>> walk{
+        {&ui.chiffre[0], "Jouons avec la Table de 2"},
+        {&ui.chiffre[10], "Jouons avec la Table de 2"},  // one state: the prompt stays
+        {&ui.label_table, kChoose},
+        {&ui.chiffre[10], "Jouons avec la Table de 12"},
+        {&ui.Label1, kChoose},  // not the prompt of its picture
+        {&ui.pytha, "Consulter la Table de Pythagore"},
+        {&ui.Image_bilan, kReport},
+        {&ui.fin, "Voulez-vous déjà nous quitter ?"},
+        {&ui.Label2, kLessons},
+        {&ui.exos, kLessons},
+        {&ui.Label3, kLessons},
+        {&ui.heure, kReport},
+        {&ui.Label3, kExercises},
+        {&ui.apprendre_leçon, kExercises},
+        {&ui.dates, kReport},
+        {&ui.exos, kExercises},
+        {&ui.bilan_utilisation, kReport},
+        {&ui.chiffre[7], "Jouons avec la Table de 9"},
+    };
+    for (const auto& [control, prompt] : walk) {
+        pupil.MoveOnto(*control);
+        EXPECT_EQ(ui.label_table.caption(), prompt);
+    }
+    pupil.program.stage().Move({1_px, 1_px});
+    EXPECT_EQ(ui.label_table.caption(), kChoose);
+}
+
+TEST(Depart, FirstMoveOverTheBackgroundKeepsTheDesignText) {
+    Pupil pupil;
+    pupil.program.stage().Move({1_px, 1_px});
+    EXPECT_EQ(pupil.screens.depart.label_table.caption(), "Cliquez sur une Table");
+}
+
+TEST(Depart, ReportPictureAndReportLabelAreDifferentStates) {
+    Pupil pupil;
+    auto& ui = pupil.screens.depart;
+    pupil.MoveOnto(ui.Image_bilan);
+    ui.label_table.SetCaption("something else");
+    pupil.MoveOnto(ui.dates);
+    EXPECT_EQ(ui.label_table.caption(), "something else");
+    pupil.MoveOnto(ui.bilan_utilisation);
+    EXPECT_EQ(ui.label_table.caption(), kReport);
+}
+
+TEST(Depart, PromptOutlivesAVisitElsewhere) {
+    Pupil pupil;
+    auto& ui = pupil.screens.depart;
+    pupil.Click(ui.pytha);
+    EXPECT_EQ(ui.label_table.caption(), "Consulter la Table de Pythagore");
+    pupil.Click(pupil.screens.pythagore.retour);
+    pupil.MoveOnto(ui.pytha);
+    EXPECT_EQ(ui.label_table.caption(), "Consulter la Table de Pythagore");
+}
+
+TEST(Depart, EveryZoneOpensItsScreenCountsAndComesBack) {
+    struct Case {
+        Image DepartUi::*image;
+        Label DepartUi::*label;
+        Form* screen;
+        Label* back;
+        bool label_sounds;
+        bool image_sounds;
+    };
+    Pupil pupil;
+    Screens& screens = pupil.screens;
+    const Case cases[] = {
+        {&DepartUi::apprendre_leçon, &DepartUi::Label2, &screens.leçon.form, &screens.leçon.retour, true,
+         true},
+        {&DepartUi::pytha, &DepartUi::Label1, &screens.pythagore.form, &screens.pythagore.retour, true, true},
+        {&DepartUi::Image_bilan, &DepartUi::bilan_utilisation, &screens.bilan.form, &screens.bilan.retour,
+         false, true},
+        {nullptr, &DepartUi::heure, &screens.bilan.form, &screens.bilan.retour, false, false},
+        {nullptr, &DepartUi::dates, &screens.bilan.form, &screens.bilan.retour, false, false},
+    };
+    for (const Case& c : cases) {
+        for (const bool by_label : {true, false}) {
+            if (!by_label && !c.image) continue;
+            if (by_label) {
+                pupil.Click(screens.depart.*c.label);
+            } else {
+                pupil.Click(screens.depart.*c.image);
+            }
+            EXPECT_TRUE(pupil.Sees(*c.screen));
+            EXPECT_FALSE(screens.depart.form.visible());
+            EXPECT_EQ(pupil.Heard(), (by_label ? c.label_sounds : c.image_sounds) ? Names{"5"} : Names{});
+            pupil.Click(*c.back);
+            EXPECT_EQ(pupil.Heard(), Names{"3"});
+            EXPECT_TRUE(pupil.Sees(screens.depart.form));
+            EXPECT_FALSE(c.screen->visible());
+        }
+    }
+    const Counters saved = pupil.Quit();
+    EXPECT_EQ(saved.LessonConsultations.value(), 2);
+    EXPECT_EQ(saved.PythagoreConsultations.value(), 2);
+}
+
+TEST(Depart, OpeningThePythagorasTableResetsItsExample) {
+    Pupil pupil;
+    pupil.screens.pythagore.operation.SetCaption("");
+    pupil.Click(pupil.screens.depart.Label1);
+    EXPECT_EQ(pupil.screens.pythagore.operation.caption(), "8 que multiplie 7 = 56");
+}
+
+TEST(Depart, ZonesStandWhereThePictureHasThem) {
+    Pupil pupil;
+    auto& ui = pupil.screens.depart;
+    for (int i = 0; i < 7; ++i) {
+        EXPECT_EQ(ui.chiffre[i].box(), (Rect{1800 + 600 * i, 900 + 420 * i, 34_px, 57_px}));
+    }
+    EXPECT_EQ(ui.chiffre[7].box(), (Rect{400_px, 200_px, 34_px, 57_px}));
+    EXPECT_EQ(ui.chiffre[8].box(), (Rect{440_px, 172_px, 61_px, 57_px}));
+    EXPECT_EQ(ui.chiffre[9].box(), (Rect{470_px, 110_px, 59_px, 57_px}));
+    EXPECT_EQ(ui.chiffre[10].box(), (Rect{536_px, 60_px, 62_px, 57_px}));
+}
+
+TEST(Depart, ClockTicksEverySecondEvenUnseen) {
+    Pupil pupil;
+    pupil.platform.time_of_day = "10:20:31";
+    pupil.Wait(999);
+    EXPECT_EQ(pupil.screens.depart.heure.caption(), "10:20:30");
+    pupil.Wait(1);
+    EXPECT_EQ(pupil.screens.depart.heure.caption(), "10:20:31");
+    pupil.Click(pupil.screens.depart.pytha);
+    pupil.platform.time_of_day = "10:20:32";
+    pupil.platform.long_date = "dimanche 22 novembre 2026";
+    pupil.Wait(1000);
+    EXPECT_EQ(pupil.screens.depart.heure.caption(), "10:20:32");
+    EXPECT_EQ(pupil.screens.depart.dates.caption(), "Samedi 21 novembre 2026");
+}
+
+TEST(Depart, FullConsultationCounterStopsTheRunBeforeTheTableOpens) {
+    Pupil pupil([](HeadlessPlatform& platform) {
+        std::string bytes = platform.ReadData("18");
+        bytes.replace(32, 2, "\xFF\x7F");
+        platform.WriteData("18", bytes);
+    });
+    EXPECT_THROW(pupil.Click(pupil.screens.depart.chiffre[0]), RunTimeError);
+    EXPECT_EQ(pupil.screens.apprendre.titre.caption(), "Jouons avec la Table de 2");
+    EXPECT_FALSE(pupil.screens.apprendre.form.visible());
+}
+
+}  // namespace

@@ -1,0 +1,125 @@
+#include "stats/usage_record.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "services/data_folder.h"
+#include "support/headless_platform.h"
+#include "support/run_time_error.h"
+
+namespace {
+
+using namespace std::string_literals;
+
+std::span<const std::byte> Bytes(const std::string& text) {
+    return std::as_bytes(std::span(text));
+}
+
+std::string Text(const std::vector<std::byte>& bytes) {
+    std::string text;
+    for (const std::byte byte : bytes) text.push_back(static_cast<char>(byte));
+    return text;
+}
+
+// A record whose fields are all different, and its bytes as they must stand in the file.
+UsageRecord FullRecord() {
+    UsageRecord record;
+    record.reserved_value = TaggedNumber::Integer(1);
+    record.reserved_text = "abcdefghij";
+    record.counters.LessonConsultations = TaggedNumber::Integer(0x0102);
+    record.counters.PythagoreConsultations = TaggedNumber::Long(0x00010203);
+    record.counters.PythagoreSolves = TaggedNumber::Empty();
+    record.counters.PuzzleCount = 0x0304;
+    record.counters.PuzzleRight = -2;
+    record.counters.PuzzleWrong = 32767;
+    for (std::int16_t i = 0; i < 11; ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        record.counters.TableConsultations[at] = static_cast<std::int16_t>(10 + i);
+        record.counters.TableExercises[at] = static_cast<std::int16_t>(30 + i);
+        record.counters.TableRight[at] = static_cast<std::int16_t>(50 + i);
+        record.counters.TableWrong[at] = static_cast<std::int16_t>(70 + i);
+    }
+    return record;
+}
+
+std::string FullBytes() {
+    std::string bytes = "\2\0\1\0abcdefghij\2\0\2\1\3\0\3\2\1\0\0\0\4\3\xFE\xFF\xFF\x7F"s;
+    for (char i = 0; i < 11; ++i) {
+        for (const int first : {10, 30, 50, 70}) bytes += {static_cast<char>(first + i), '\0'};
+    }
+    return bytes;
+}
+
+TEST(UsageRecord, StandsInTheFileFieldByField) {
+    EXPECT_EQ(Text(ToBytes(FullRecord())), FullBytes());
+    EXPECT_EQ(FromBytes(Bytes(FullBytes())), FullRecord());
+    EXPECT_EQ(ToBytes(UsageRecord()).size(), 120U);
+}
+
+TEST(UsageRecord, ElementElevenIsNeverStored) {
+    UsageRecord record;
+    record.counters.TableRight[11] = 5;
+    EXPECT_EQ(FromBytes(ToBytes(record)).counters.TableRight[11], 0);
+}
+
+TEST(UsageRecord, ShortFilesLeaveZeros) {
+    const std::string whole = FullBytes();
+    EXPECT_EQ(FromBytes({}), UsageRecord());
+    const UsageRecord without_last = FromBytes(Bytes(whole.substr(0, whole.size() - 1)));
+    EXPECT_EQ(without_last.counters.TableWrong[10], 0);
+    EXPECT_EQ(without_last.counters.TableRight[10], 60);
+    const UsageRecord tag_only = FromBytes(Bytes(whole.substr(0, 2)));
+    EXPECT_EQ(tag_only.counters, Counters());
+    for (std::size_t size = 0; size < whole.size(); ++size) {
+        EXPECT_GE(ToBytes(FromBytes(Bytes(whole.substr(0, size)))).size(), 116U);
+    }
+}
+
+TEST(UsageRecord, AnyBytesCanBeReadAndUnknownTagsAreEmpty) {
+    const std::string unknown = "\x09\0"s + std::string(118, '\1');
+    EXPECT_EQ(FromBytes(Bytes(unknown)).reserved_value, TaggedNumber::Empty());
+    EXPECT_EQ(FromBytes(Bytes(unknown)).reserved_text, std::string(10, '\1'));
+    std::minstd_rand random(7);
+    for (int i = 0; i < 2000; ++i) {
+        std::string bytes(random() % 140, '\0');
+        for (char& byte : bytes) byte = static_cast<char>(random() % 5);
+        const UsageRecord record = FromBytes(Bytes(bytes));
+        EXPECT_EQ(FromBytes(ToBytes(record)), record);
+    }
+}
+
+TEST(UsageRecord, SavingMarksTheRecordAndKeepsTheBytesPastIt) {
+    HeadlessPlatform platform;
+    const auto file = DataFile(platform, "18");
+    const std::string old = platform.ReadData("18") + "and more";
+    platform.WriteData("18", old);
+    UsageRecord record = LoadUsageRecord(file);
+    SaveUsageRecord(platform, file, record);
+    std::string expected = old;
+    expected[2] = '\1';
+    EXPECT_EQ(platform.ReadData("18"), expected);
+    record = LoadUsageRecord(file);
+    SaveUsageRecord(platform, file, record);
+    EXPECT_EQ(platform.ReadData("18"), expected);
+
+    std::filesystem::remove(file);
+    SaveUsageRecord(platform, file, record);
+    EXPECT_EQ(platform.ReadData("18"), expected.substr(0, 120));
+}
+
+TEST(UsageRecord, MissingFileIsNamed) {
+    HeadlessPlatform platform;
+    for (const auto& file : {platform.folder / "datas" / "17", platform.folder / "datas"}) {
+        try {
+            LoadUsageRecord(file);
+            ADD_FAILURE() << "loaded " << file;
+        } catch (const RunTimeError& error) {
+            const std::u8string name = file.u8string();
+            EXPECT_NE(std::string(error.what()).find(std::string(name.begin(), name.end())),
+                      std::string::npos);
+        }
+    }
+}
+
+}  // namespace

@@ -1,0 +1,42 @@
+#include "support/counter.h"
+
+#include <gtest/gtest.h>
+
+#include "support/run_time_error.h"
+
+namespace {
+
+TEST(Counter, SixteenBitsStopTheRunPastTheirLimit) {
+    std::int16_t counter = 32766;
+    Raise(counter, "PuzzleCount");
+    EXPECT_EQ(counter, 32767);
+    try {
+        Raise(counter, "PuzzleCount");
+        ADD_FAILURE() << "no overflow";
+    } catch (const RunTimeError& error) {
+        EXPECT_STREQ(error.what(), "Dépassement de capacité du compteur « PuzzleCount ».");
+    }
+    EXPECT_EQ(counter, 32767);
+}
+
+TEST(Counter, TaggedNumbersWidenAndEmptyCountsAsZero) {
+    TaggedNumber number = TaggedNumber::Empty();
+    EXPECT_EQ(number.value(), 0);
+    number.Raise("x");
+    EXPECT_EQ(number, TaggedNumber::Integer(1));
+
+    number = TaggedNumber::Integer(32766);
+    number.Raise("x");
+    EXPECT_EQ(number, TaggedNumber::Integer(32767));
+    number.Raise("x");
+    EXPECT_EQ(number, TaggedNumber::Long(32768));
+
+    number = TaggedNumber::Long(-5);
+    number.Raise("x");
+    EXPECT_EQ(number, TaggedNumber::Long(-4));
+
+    number = TaggedNumber::Long(2147483647);
+    EXPECT_THROW(number.Raise("x"), RunTimeError);
+}
+
+}  // namespace
