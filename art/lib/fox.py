@@ -1,6 +1,6 @@
 """The guide: a young fox with a blue scarf, met on every screen."""
 
-from lib.palette import CORAL, FOX, INK, LEAF, PAPER, SEA, mix, shade, tint
+from lib.palette import CORAL, FOX, INK, LEAF, PAPER, SEA, SKY, mix, shade, tint
 from lib.svg import circle, ellipse, group, limb, outlined, path, stroke
 
 FUR, SNOW = FOX, mix(PAPER, "#FFFFFF", .5)
@@ -41,10 +41,10 @@ def head(x, y, scale=1.0, turn=0, mood="open", hat=""):
 
 def scarf(x=0, y=0, scale=1.0, colour=SEA):
     return group(
-        path("M12 6L24 32L33 28L22 4Z", **outlined(shade(colour, .1))),
+        path("M3 8L5 37H16L17 6Z", **outlined(shade(colour, .12))),
         path("M-27 -6Q0 10 27 -6Q32 0 28 8Q0 22 -28 8Q-32 0 -27 -6Z", **outlined(colour)),
         stroke("M-22 0Q0 12 22 0", tint(colour, .4), 2),
-        stroke("M20 25L29 21", tint(colour, .5), 2), x=x, y=y, scale=scale)
+        stroke("M6 30H15", tint(colour, .5), 2), x=x, y=y, scale=scale)
 
 
 def tail(x, y, scale=1.0, flip=False, turn=0):
@@ -60,13 +60,14 @@ def arm(d, hand):
     return limb(d, FUR, 11) + circle(x, y, 8, **outlined(PAW))
 
 
-def sitting(x, y, scale=1.0, mood="open", left=None, right=None, hat="", turn=0, holds="", tail_flip=False, drape=""):
+def sitting(x, y, scale=1.0, mood="open", left=None, right=None, hat="", turn=0, holds="",
+            tail_side="right", drape="", shadow=True):
     """Facing us, sitting; (x, y) is the ground under it. Arms are (path, hand), drawn over the body; 160 high at scale 1."""
     left = left or arm("M-24 -58C-32 -44 -28 -34 -14 -32", (-12, -32))
     right = right or arm("M24 -58C32 -44 28 -34 14 -32", (12, -32))
     return group(
-        ellipse(6, -1, 54, 6, fill=INK, opacity=".14"),
-        tail(-16 if tail_flip else 16, -10, 1.0, flip=tail_flip),
+        ellipse(6, -1, 54, 6, fill=INK, opacity=".14") if shadow else "",
+        {"right": tail(16, -10), "left": tail(-16, -10, flip=True), "": ""}[tail_side],
         path("M-22 -72C-36 -52 -42 -24 -36 -4H36C42 -24 36 -52 22 -72Z", **outlined(FUR)),
         path("M-12 -66C-22 -44 -24 -20 -16 -4H16C24 -20 22 -44 12 -66Z", fill=SNOW),
         path("M30 -52C38 -34 39 -18 35 -5L27 -5C33 -22 33 -36 30 -52Z", fill=shade(FUR, .16)),
@@ -87,3 +88,13 @@ def laurel():
                 leaves += group(group(path("M0 0C3 -6 11 -7 16 -3C12 4 5 5 0 0Z", **outlined(tint(LEAF, .2 * (i % 2)), 1.8)),
                                       turn=angle - 180 + lean), x=side * lx, y=ly, flip=side < 0)
     return leaves
+
+
+def toga():
+    """For sitting(): worn over the left shoulder."""
+    return (path("M-25 -74C-38 -52 -43 -24 -38 -2H38C43 -24 37 -50 25 -70C18 -62 8 -60 2 -62Z", **outlined(SNOW))
+            + path("M-25 -74C-34 -60 -38 -46 -40 -32C-20 -36 10 -46 25 -70C18 -62 8 -60 2 -62Z",
+                   **outlined(tint(SEA, .72)))
+            + stroke("M-30 -58C-12 -56 4 -58 14 -64M-36 -44C-14 -45 8 -52 20 -64", tint(SEA, .3), 1.8)
+            + stroke("M-18 -34C-20 -22 -20 -14 -18 -8M4 -40C6 -28 6 -16 3 -8M22 -52C28 -36 28 -24 26 -12", mix(SKY, SEA, .3), 1.8)
+            + stroke("M-36 -9H36", SEA, 3))

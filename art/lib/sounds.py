@@ -14,6 +14,7 @@ INSTRUMENTS = {
     "hum": (((1, 1.0, 1.0), (2, .22, .7), (3, .06, .5)), .004),
 }
 PEAK_DB = -3.5
+LOUDEST = 10 ** (-22.2 / 20)  # RMS; no family stands out from the others
 RAW = ("-t", "raw", "-e", "signed", "-b", "32", "-r", "44100", "-c", "1")
 SEMITONES = {"C": -9, "D": -7, "E": -5, "F": -4, "G": -2, "A": 0, "B": 2}
 
@@ -67,9 +68,9 @@ def main(scores, datas):
             for sound in family:
                 play(sound, raw[sound[0]])
             levels = {name: loudness(path) for name, path in raw.items()}
-            quietest = min(levels.values())
+            level = min(LOUDEST, *levels.values())
             for name, path in raw.items():
-                subprocess.run(["sox", "-D", "-v", f"{quietest / levels[name]:.6f}", *RAW, str(path), "-b", "16", "-t", "wav",
+                subprocess.run(["sox", "-D", "-v", f"{level / levels[name]:.6f}", *RAW, str(path), "-b", "16", "-t", "wav",
                                 str(datas / name)], check=True)
 
 

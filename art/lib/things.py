@@ -174,8 +174,49 @@ def cloud(x, y, scale=1.0):
                       fill="#FFFFFF", stroke=mix(SKY, SEA, .35), stroke_width=1.4, stroke_linejoin="round"), x=x, y=y, scale=scale)
 
 
-def times(x, y, height, colour=INK):
-    return number("×", x, y, height, colour)
+def plate(x, y, width, height):
+    """A small white label, like those on exercise books."""
+    return rect(x + .7, y + .7, width - 1.4, height - 1.4, 6, fill="#FFFFFF", stroke=mix(SKY, SEA, .25), stroke_width=1.4)
+
+
+def apple(x, y, radius):
+    r = radius
+    return "".join([
+        path(f"M{x} {num(y - r * .6)}C{num(x + r * .7)} {num(y - r * 1.2)} {num(x + r * 1.35)} {num(y - r * .4)} {num(x + r * 1.1)} {num(y + r * .3)}"
+             f"C{num(x + r * .9)} {num(y + r * 1.1)} {num(x + r * .4)} {num(y + r * 1.2)} {x} {num(y + r)}"
+             f"C{num(x - r * .4)} {num(y + r * 1.2)} {num(x - r * .9)} {num(y + r * 1.1)} {num(x - r * 1.1)} {num(y + r * .3)}"
+             f"C{num(x - r * 1.35)} {num(y - r * .4)} {num(x - r * .7)} {num(y - r * 1.2)} {x} {num(y - r * .6)}Z", **outlined(CORAL)),
+        path(f"M{num(x + r * .95)} {num(y - r * .25)}C{num(x + r * 1.05)} {num(y + r * .5)} {num(x + r * .6)} {num(y + r * .95)} {num(x + r * .1)} {num(y + r * .85)}"
+             f"C{num(x + r * .5)} {num(y + r * .6)} {num(x + r * .8)} {num(y + r * .3)} {num(x + r * .95)} {num(y - r * .25)}Z", fill=shade(CORAL, .25)),
+        ellipse(x - r * .5, y - r * .2, r * .2, r * .3, fill=tint(CORAL, .55)),
+        stroke(f"M{x} {num(y - r * .55)}Q{num(x - 1)} {num(y - r * 1.1)} {num(x + 2)} {num(y - r * 1.4)}", shade(WOOD, .6), 2.4),
+        path(f"M{num(x + 1)} {num(y - r)}Q{num(x + r * .3)} {num(y - r * 1.7)} {num(x + r * 1.1)} {num(y - r * 1.4)}"
+             f"Q{num(x + r * .8)} {num(y - r * .8)} {num(x + 1)} {num(y - r)}Z", **outlined(LEAF, 1.4)),
+    ])
+
+
+def pot(x, y, colour=TEAL):
+    """A pot of pencils; (x, y) is the middle of its foot."""
+    return "".join([
+        pencil(x - 12, y - 74, 60, SUN, turn=80, thick=7), pencil(x + 13, y - 70, 60, CORAL, turn=102, thick=7),
+        pencil(x + 1, y - 82, 60, SEA, turn=91, thick=7),
+        path(f"M{x - 15} {y - 36}H{x + 15}L{x + 12.5} {y}H{x - 12.5}Z", **outlined(colour)),
+        path(f"M{x + 7} {y - 32}H{x + 13}L{x + 11} {y - 1.5}H{x + 6}Z", fill=shade(colour, .22)),
+        stroke(f"M{x - 11} {y - 32}L{x - 9.5} {y - 5}", tint(colour, .5), 1.8),
+        rect(x - 16.5, y - 40, 33, 7, 3, **outlined(tint(colour, .2))),
+    ])
+
+
+def bunting(width, y, count=16):
+    """Little flags on a string along the top."""
+    step = width / count
+    parts = [stroke(f"M-4 {y}" + "".join(f"Q{num(step * (i + .5))} {y + 8} {num(step * (i + 1))} {y}" for i in range(count)),
+                    shade(WOOD, .5), 1.8)]
+    for i in range(count):
+        x, colour = step * (i + .5), BRIGHT[i % len(BRIGHT)]
+        parts.append(path(f"M{num(x - 11)} {y + 2.6}Q{num(x)} {y + 5} {num(x + 11)} {y + 2.6}L{num(x)} {y + 27}Z", **outlined(colour)))
+        parts.append(path(f"M{num(x + 3)} {y + 4.5}L{num(x + 9.3)} {y + 4}L{num(x + .3)} {y + 24}Z", fill=shade(colour, .18)))
+    return "".join(parts)
 
 
 def star(x, y, radius, colour, turn=0):

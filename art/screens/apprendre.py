@@ -37,11 +37,12 @@ def title():
 
 def draw():
     parts = [seyes()]
-    parts += [fox.head(62, 38, .5, mood="right"), board(),
+    parts += [fox.head(62, 34, .47, mood="right"), board(),
               ellipse(32, 50, 8, 5.5, **outlined(fox.PAW)), ellipse(92, 50, 8, 5.5, **outlined(fox.PAW))]
     parts.append(title())
     parts += [card(LEFT, top, WIDTH, height, colour, bar=9) for top, height, colour in PANELS]
-    parts.append(cubes(546, 20, 15, (CORAL, SUN, LEAF, SEA)))
-    parts.append(pencil(244, 465, 104, SUN) + stick(366, 462, 26) + stick(399, 466, 22, tint(CORAL, .5)))
-    parts += [counter(444 + 22 * i, 463, 8, c) for i, c in enumerate((CORAL, SUN, LEAF, SEA))]
+    parts.append(cubes(550, 21, 15, (CORAL, SUN, LEAF, SEA)))
+    parts.append(rect(236, 472, 304, 7, 3, **outlined(WOOD)) + line(240, 474.3, 535, 474.3, tint(WOOD, .45), 1.3))
+    parts.append(pencil(244, 466.5, 104, SUN) + stick(362, 468, 26) + stick(394, 468, 20, tint(CORAL, .45)))
+    parts += [counter(434 + 22 * i, 463, 8, c) for i, c in enumerate((CORAL, SUN, LEAF, SEA, PLUM))]
     return page("".join(parts))

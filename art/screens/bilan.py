@@ -1,15 +1,17 @@
 """The usage report: the grid of the tables, the training card."""
 
+from math import cos, pi, sin
+
 from lib import fox
-from lib.lettering import number
+from lib.lettering import number, sticker
 from lib.palette import CORAL, INK, LEAF, PAPER, PLUM, SEA, SKY, SLATE, SUN, TABLES, TEAL, WOOD, mix, shade, tint
 from lib.svg import circle, ellipse, group, line, outlined, page, path, rect, soft_shadow, stroke
-from lib.things import abacus, card, counter, cube, cubes, pencil, seyes, star
+from lib.things import bunting, card, cube, seyes, star
 
 ROW_TOPS = (192, 219, 246, 272, 298, 323, 349, 375, 401, 427, 454)
 TEXT_MIDDLE = 10  # of a value, below its row's top
 LEFT, COLUMNS, RIGHT = 188, (247, 307.5, 368.5, 428), 488
-TOP, HEADING, BOTTOM = 152, 191, 478
+TOP, HEADING, BOTTOM = 152, 189, 478
 
 
 def grid():
@@ -23,7 +25,7 @@ def grid():
             parts.append(rect(COLUMNS[0], upper, RIGHT - 2 - COLUMNS[0], lower - upper, fill=tint(SKY, .84)))
         text = str(i + 2)
         colour = TABLES[i + 2]
-        parts.append(rect(197, middle - 10, 42, 20, 6, **outlined(colour, 1.4)))
+        parts.append(rect(197, middle - 9.5, 42, 19, 6, **outlined(tint(colour, .4), 1.4)))
         parts.append(number(text, 218, middle, 15.5, INK, gap=7))
     rule = mix(SKY, SEA, .35)
     parts += [line(LEFT + 2, edge, RIGHT - 2, edge, rule, 1) for edge in edges[1:-1]]
@@ -40,19 +42,30 @@ def training():
     return "".join(parts)
 
 
-def teller():
-    """The fox shows the two sentences; towers of cubes show that practice piles up."""
+def towers():
+    """Practice piles up."""
     parts = [soft_shadow(92, 470, 84, 5)]
     for i, colours in enumerate(((CORAL, SUN), (LEAF, SEA, PLUM), (TEAL, CORAL, SUN, LEAF), (SEA, PLUM, TEAL, CORAL, SUN))):
         parts += [cube(18 + 36 * i, 446 - 25 * j, 24, colour) for j, colour in enumerate(colours)]
     return "".join(parts)
 
 
+def medal(x, y):
+    """A rosette with the sign of multiplication."""
+    petals = "".join(circle(x + 25 * cos(a * pi / 6), y + 25 * sin(a * pi / 6), 8, **outlined(CORAL)) for a in range(12))
+    return "".join([
+        path(f"M{x - 16} {y + 18}L{x - 24} {y + 54}L{x - 12} {y + 47}L{x - 4} {y + 56}L{x + 2} {y + 22}Z", **outlined(shade(CORAL, .15))),
+        path(f"M{x + 16} {y + 18}L{x + 24} {y + 54}L{x + 12} {y + 47}L{x + 4} {y + 56}L{x - 2} {y + 22}Z", **outlined(CORAL)),
+        petals, circle(x, y, 26, fill=CORAL), circle(x, y, 22, **outlined(SUN)),
+        circle(x, y, 17.5, fill="none", stroke=tint(SUN, .5), stroke_width=1.6),
+        sticker("×", x, y, 30, "#FFFFFF"),
+    ])
+
+
 def draw():
-    parts = [seyes()]
-    parts.append(card(140, 66, 494, 80, SUN, radius=12))
-    parts.append(grid() + training() + teller())
     arm = fox.arm("M24 -60C34 -62 44 -70 50 -84", (51, -88))
-    parts.append(fox.sitting(74, 300, 1.05, mood="right", right=arm, tail_flip=True))
-    parts.append(star(553, 222, 15, SUN, turn=-8) + star(592, 240, 10, CORAL, turn=12) + star(520, 243, 8, LEAF, turn=16))
-    return page("".join(parts))
+    stars = star(519, 176, 8, SUN, turn=-10) + star(612, 178, 10, LEAF, turn=12) + star(606, 240, 7, SEA, turn=-6)
+    return page("".join([
+        seyes(), bunting(640, 8), card(140, 68, 494, 78, SUN, radius=12), grid(), training(), towers(),
+        fox.sitting(84, 300, .95, mood="right", right=arm, tail_side="left"), medal(566, 197), stars,
+    ]))

@@ -4,18 +4,23 @@ from lib import fox
 from lib.lettering import number, sticker
 from lib.palette import CORAL, INK, LEAF, PAPER, PLUM, SEA, SKY, SLATE, SUN, TABLES, TEAL, WOOD, mix, shade, tint
 from lib.svg import ball, circle, ellipse, group, line, outlined, page, path, rect, soft_shadow, stroke
-from lib.things import BRIGHT, abacus, card, cloud, counter, cube, pencil, seyes, slate, star, tag
+from lib.things import abacus, apple, book, card, counter, cube, plate, pot, seyes, slate, tag
 
 TAGS = [(2, 120, 60, 34), (3, 160, 88, 34), (4, 200, 116, 34), (5, 240, 144, 34), (6, 280, 172, 34), (7, 320, 200, 34),
         (8, 360, 228, 34), (9, 400, 200, 34), (10, 440, 172, 61), (11, 470, 110, 59), (12, 536, 60, 62)]
 TAG_HEIGHT = 57
+PROMPT_GROUND = "#FFFFFF"
 
 
-def garland():
+def string():
     pins = [(x + width / 2, y + 4) for _, x, y, width in TAGS]
-    string = "M93 26L" + "L".join(f"{x} {y}" for x, y in pins) + "L622 34"
-    parts = [stroke(string, shade(WOOD, .5), 2), circle(93, 26, 4, **outlined(tint(SLATE, .6))),
-             circle(622, 34, 4, **outlined(tint(SLATE, .6)))]
+    way = "M93 26L" + "L".join(f"{x} {y}" for x, y in pins) + "L622 34"
+    return "".join([stroke(way, shade(WOOD, .5), 2), circle(93, 26, 4, **outlined(tint(SLATE, .6))),
+                    circle(622, 34, 4, **outlined(tint(SLATE, .6)))])
+
+
+def tags():
+    parts = []
     for table, x, y, width in TAGS:
         parts.append(tag(x, y, width, TAG_HEIGHT, TABLES[table]))
         parts.append(sticker(str(table), x + width / 2, y + 35, 37, "#FFFFFF", gap=7))
@@ -27,12 +32,12 @@ def temple():
     marble, vein = "#FFFFFF", mix(SKY, SLATE, .25)
     parts = [
         '<clipPath id="cove"><rect x="6" y="112" width="111" height="138" rx="12"/></clipPath>',
-        group(rect(4, 110, 115, 142, fill=tint(SKY, .35)), circle(96, 136, 11, fill=SUN),
+        group(rect(4, 110, 115, 142, fill=tint(SKY, .35)), circle(61, 146, 10, fill=SUN),
               rect(4, 196, 115, 60, fill=SEA), path("M4 197C16 186 30 184 40 197ZM84 197C92 188 108 187 120 197Z", fill=tint(LEAF, .25)),
               stroke("M10 206h10M92 204h12M100 212h10M14 215h8", tint(SEA, .5), 1.6),
               path("M4 232C30 220 90 220 119 232V254H4Z", fill=tint(LEAF, .3)), clip_path="url(#cove)"),
     ]
-    parts.append(path("M61 89L112 118H10Z", **outlined(marble)))
+    parts.append(path("M61 91L112 118H10Z", **outlined(marble)))
     parts.append(path("M61 97L92 114.500H30Z", **outlined(tint(CORAL, .25), 1.4)))
     parts.append(rect(13, 118, 96, 9, 1, **outlined(marble)))
     parts.append(stroke("M17 122.500H105", vein, 1.4))
@@ -70,18 +75,17 @@ def easel():
 
 
 def workshop():
-    """Zone (233, 308) to (552, 463): abacus, slate, cubes and counters."""
-    parts = [rect(236, 446, 313, 14, 5, **outlined(WOOD)), stroke("M242 449.500H542", tint(WOOD, .45), 1.6)]
+    """Zone (233, 308) to (552, 463): abacus, slate, pencils and cubes on their shelf."""
+    parts = [rect(236, 441, 313, 13, 5, **outlined(WOOD)), stroke("M242 444.500H542", tint(WOOD, .45), 1.6)]
     rows = [(CORAL, 3, 5), (SUN, 6, 2), (LEAF, 4, 4), (SEA, 7, 1), (PLUM, 2, 6)]
-    parts.append(abacus(247, 320, 104, 122, rows, bead=6.2))
-    parts.append(slate(368, 356, 86, 88, frame=7))
-    parts.append(number("6×7", 411, 385, 20, "#FFFFFF") + number("=", 394, 417, 20, "#FFFFFF"))
-    parts.append(stroke("M409 425H431", SUN, 2.6, stroke_dasharray="1.500 5"))
+    parts.append(abacus(247, 318, 104, 120, rows, bead=6.2))
+    parts.append(slate(366, 346, 84, 94, frame=7))
+    parts.append(number("6×7", 408, 377, 20, "#FFFFFF") + number("=", 390, 410, 20, "#FFFFFF"))
+    parts.append(stroke("M405 418H429", SUN, 2.8, stroke_dasharray=".1 6"))
+    parts.append(pot(474, 441))
     for i, colours in enumerate(((LEAF, CORAL, SUN), (SEA, PLUM), (TEAL,))):
         for j, colour in enumerate(colours):
-            parts.append(cube(466 + 23 * j + 11.5 * i, 421 - 24 * i, 22, colour))
-    parts.append(pencil(359, 442, 76, SUN, turn=-66))
-    parts.append(star(489, 333, 10, SUN, turn=-10) + star(518, 347, 7, CORAL, turn=14))
+            parts.append(cube(495 + 16.5 * j + 8.2 * i, 423 - 17.5 * i, 16, colour))
     return "".join(parts)
 
 
@@ -98,20 +102,28 @@ def report():
     return "".join(parts)
 
 
-def prompt_cloud():
-    """Where the prompt line stands, under the fox."""
-    edge = mix(SKY, SEA, .45)
-    shape = "M252 92H455Q467 92 467 104V158Q467 170 455 170H252Q240 170 240 158V104Q240 92 252 92Z"
-    return path(shape, fill="#FFFFFF", stroke=edge, stroke_width=2, stroke_linejoin="round")
+def prompter():
+    """The fox holds the sign on which the prompt line stands."""
+    return "".join([
+        fox.sitting(355, 174, .92, tail_side="", shadow=False),
+        rect(243.5, 136.5, 224, 44, 11, fill=INK, opacity=".10"),
+        rect(242, 134, 224, 44, 11, **outlined(PROMPT_GROUND)),
+        ellipse(311, 135, 8.5, 6.5, **outlined(fox.PAW)), ellipse(399, 135, 8.5, 6.5, **outlined(fox.PAW)),
+    ])
+
+
+def shelf_of_books():
+    """Lower left corner, outside every zone."""
+    parts = [soft_shadow(112, 472, 112, 4)]
+    parts += [book(16, 455, 124, 17, SEA), book(24, 439, 108, 16, CORAL), book(20, 424, 96, 15, LEAF)]
+    parts += [apple(163, 460, 12), counter(194, 465, 8, SUN), counter(213, 463, 8, TEAL)]
+    return "".join(parts)
 
 
 def draw():
+    labels = ((1, 67, 116, 20), (518, 280, 106, 19), (55, 381, 110, 22), (300, 461, 145, 18))
     return page("".join([
         seyes(),
-        rect(0, 62, 118, 22, 8, fill=PAPER), rect(514, 277, 114, 24, 8, fill=PAPER), rect(52, 380, 116, 26, 8, fill=PAPER),
-        rect(290, 461, 350, 19, fill=PAPER),
-        temple(), easel(), report(), workshop(),
-        fox.head(353, 56, .62), prompt_cloud(),
-        ellipse(320, 94, 9, 6, **outlined(fox.PAW)), ellipse(386, 94, 9, 6, **outlined(fox.PAW)),
-        garland(),
+        "".join(plate(*box) for box in labels),
+        temple(), easel(), report(), workshop(), shelf_of_books(), string(), prompter(), tags(),
     ]))
