@@ -10,7 +10,7 @@ from lib.things import bunting, card, cube, seyes, star
 
 ROW_TOPS = (192, 219, 246, 272, 298, 323, 349, 375, 401, 427, 454)
 TEXT_MIDDLE = 10  # of a value, below its row's top
-LEFT, COLUMNS, RIGHT = 188, (247, 307.5, 368.5, 428), 488
+LEFT, COLUMNS, RIGHT = 188, (246.5, 307.5, 368.5, 428.5), 488
 TOP, HEADING, BOTTOM = 152, 189, 478
 
 
@@ -18,7 +18,7 @@ def grid():
     parts = [card(LEFT, TOP, RIGHT - LEFT, BOTTOM - TOP, SEA, radius=8)]
     parts.append(path(f"M{LEFT + 2} {HEADING}V160a6 6 0 0 1 6 -6H{RIGHT - 8}a6 6 0 0 1 6 6V{HEADING}Z", fill=tint(SKY, .72)))
     middles = [top + TEXT_MIDDLE for top in ROW_TOPS]
-    edges = [HEADING] + [(a + b) / 2 for a, b in zip(middles, middles[1:])] + [BOTTOM - 2]
+    edges = [HEADING] + [(a + b) // 2 + .5 for a, b in zip(middles, middles[1:])] + [BOTTOM - 2]
     for i, middle in enumerate(middles):
         upper, lower = edges[i], edges[i + 1]
         if i % 2:

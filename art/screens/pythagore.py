@@ -72,15 +72,15 @@ def pediment():
 
 def theorem():
     """Three, four, five: the squares on the sides of a right triangle, carved in a stele."""
-    x, y, u = 139, 139, 5.9  # the right angle, one unit
+    x, y, u = 139, 136, 5.9  # the right angle, one unit
     def squares(n, colour, turn, at):
         return group("".join(rect(u * i, u * j, u, u, fill=tint(colour, .25 if (i + j) % 2 else .5), stroke=INK, stroke_width=.9)
                              for i in range(n) for j in range(n)), x=at[0], y=at[1], turn=turn)
     slope = 90 - 53.1301
     return "".join([
-        path("M112 172V96Q112 84 126 84H184Q198 84 198 96V172Z", **outlined(MARBLE)),
-        path("M191 90Q194 93 194 98V168H189V96Q189 91 186 88Z", fill=mix(SKY, SLATE, .12), opacity=".5"),
-        rect(107, 170, 96, 8, 2, **outlined(MARBLE)),
+        path("M112 169V93Q112 81 126 81H184Q198 81 198 93V169Z", **outlined(MARBLE)),
+        path("M191 87Q194 90 194 95V165H189V93Q189 88 186 85Z", fill=mix(SKY, SLATE, .12), opacity=".5"),
+        rect(107, 167, 96, 8, 2, **outlined(MARBLE)),
         squares(3, CORAL, 0, (x - 3 * u, y - 3 * u)), squares(4, LEAF, 0, (x, y)),
         squares(5, SEA, slope, (x + u * 3, y - 3 * u - 4 * u)),
         path(f"M{x} {y}V{num(y - 3 * u)}L{num(x + 4 * u)} {y}Z", **outlined(SUN)),
@@ -97,12 +97,12 @@ def meander(y, left, right):
 
 def teacher():
     arm = fox.arm("M24 -58C32 -56 42 -58 50 -62", (53, -63))
-    return fox.sitting(54, 177, .84, mood="right", right=arm, hat=fox.laurel(), drape=fox.toga(), tail_side="")
+    return fox.sitting(54, 174, .84, mood="right", right=arm, hat=fox.laurel(), drape=fox.toga(), tail_side="")
 
 
 def draw():
     return page("".join([
         rect(0, 0, 640, 480, fill=PAPER), sea(), boat(520, 64),
-        pediment(), grid(), theorem(), teacher(), meander(374, 6, 634),
-        plate(177, 447.5, 252, 30),
+        pediment(), grid(), theorem(), teacher(), meander(372, 6, 634),
+        plate(177, 447, 252, 25),
     ]))
