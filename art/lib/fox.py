@@ -1,14 +1,14 @@
 """The guide: a young fox with a blue scarf, met on every screen."""
 
 from lib.palette import CORAL, FOX, INK, LEAF, PAPER, SEA, SKY, mix, shade, tint
-from lib.svg import circle, ellipse, group, limb, outlined, path, stroke
+from lib.svg import LINE, circle, ellipse, group, limb, outlined, path, stroke
 
 FUR, SNOW = FOX, mix(PAPER, "#FFFFFF", .5)
 PAW = mix(FOX, INK, .72)
 
 
-def ear(flip):
-    return group(path("M14 -30C18 -46 28 -60 38 -66C44 -52 48 -34 46 -12Z", **outlined(FUR)),
+def ear(flip, width):
+    return group(path("M14 -30C18 -46 28 -60 38 -66C44 -52 48 -34 46 -12Z", **outlined(FUR, width)),
                  path("M24 -34C28 -46 33 -52 36 -55C39 -46 41 -36 40 -24Z", fill=PAW), flip=flip)
 
 
@@ -24,8 +24,8 @@ def head(x, y, scale=1.0, turn=0, mood="open", hat=""):
     """About 104 wide and 112 high at scale 1, centred between the eyes."""
     face = "M0 -40C28 -40 46 -26 50 -2C52 6 57 12 60 16C48 34 22 46 0 46C-22 46 -48 34 -60 16C-57 12 -52 6 -50 -2C-46 -26 -28 -40 0 -40Z"
     return group(
-        ear(True), ear(False),
-        path(face, **outlined(FUR, 1.7 / scale)),
+        ear(True, LINE / scale), ear(False, LINE / scale),
+        path(face, **outlined(FUR, LINE / scale)),
         path("M0 46C-22 46 -48 34 -60 16C-44 12 -30 8 -19 14C-10 19 -8 26 0 26C8 26 10 19 19 14C30 8 44 12 60 16C48 34 22 46 0 46Z",
              **outlined(SNOW, 1.2 / scale)),
         path("M-5 -38Q0 -14 5 -38Q0 -41 -5 -38Z", fill=shade(FUR, .2)),
@@ -60,8 +60,8 @@ def arm(d, hand):
     return limb(d, FUR, 11) + circle(x, y, 8, **outlined(PAW))
 
 
-def sitting(x, y, scale=1.0, mood="open", left=None, right=None, hat="", turn=0, holds="",
-            tail_side="right", drape="", shadow=True):
+def sitting(x, y, scale=1.0, mood="open", left=None, right=None, hat="", turn=0, tail_side="right",
+            drape="", shadow=True):
     """Facing us, sitting; (x, y) is the ground under it. Arms are (path, hand), drawn over the body; 160 high at scale 1."""
     left = left or arm("M-24 -58C-32 -44 -28 -34 -14 -32", (-12, -32))
     right = right or arm("M24 -58C32 -44 28 -34 14 -32", (12, -32))
@@ -75,8 +75,7 @@ def sitting(x, y, scale=1.0, mood="open", left=None, right=None, hat="", turn=0,
         group(ellipse(-25, -6, 15, 8, **outlined(PAW)), ellipse(25, -6, 15, 8, **outlined(PAW))),
         "" if drape else scarf(0, -76, .98),
         left, right,
-        head(0, -112, .82, turn, mood, hat),
-        holds, x=x, y=y, scale=scale)
+        head(0, -112, .82, turn, mood, hat), x=x, y=y, scale=scale)
 
 
 def laurel():

@@ -1,8 +1,8 @@
-"""The program's icon: the fox before a slate; only the fox when it is small."""
+"""The program's icon: the fox and the sign of multiplication; only the fox when it is small."""
 
 from lib import fox
 from lib.lettering import sticker
-from lib.palette import CORAL, FOX, INK, SEA, SKY, SUN, tint
+from lib.palette import INK, SEA, SUN, tint
 from lib.svg import page, rect
 
 
@@ -12,7 +12,7 @@ def draw(size):
     ground = rect(2, 2, 60, 60, 14, fill=tint(SEA, .12), stroke=INK, stroke_width=2.4)
     shine = rect(5.5, 5.5, 53, 53, 11, fill="none", stroke=tint(SEA, .5), stroke_width=1.6)
     if plain:
-        drawn = ground + fox.head(32, 35, .5)
+        drawn = ground + fox.head(32, 38, .5)
     else:
-        drawn = ground + shine + fox.head(32, 30, .46) + sticker("×", 47, 49, 22, SUN, outline=1.6)
+        drawn = ground + shine + fox.head(32, 38, .46) + sticker("×", 32, 13, 17, SUN, outline=1.6)
     return page(drawn, size, size).replace(f'viewBox="0 0 {size} {size}"', 'viewBox="0 0 64 64"')

@@ -1,6 +1,6 @@
 """A few SVG elements as text. Every drawn thing keeps one outline and one light, from the upper left."""
 
-from lib.palette import INK, shade, tint
+from lib.palette import INK
 
 LINE = 1.7  # outline of everything that has one
 
@@ -55,16 +55,6 @@ def line(x1, y1, x2, y2, colour, width=1.0, **attributes):
 def limb(d, colour, width, ink=INK, outline=LINE):
     """A thick rounded line with an outline: arms, legs, branches."""
     return stroke(d, ink, width + 2 * outline) + stroke(d, colour, width)
-
-
-def ball(x, y, radius, colour, width=LINE):
-    """A round thing with its light and its shade."""
-    return (circle(x, y, radius, **outlined(colour, width))
-            + path(f"M{num(x + radius * .62)} {num(y - radius * .35)}"
-                   f"A{num(radius * .8)} {num(radius * .8)} 0 0 1 {num(x - radius * .45)} {num(y + radius * .58)}"
-                   f"A{num(radius * 1.15)} {num(radius * 1.15)} 0 0 0 {num(x + radius * .62)} {num(y - radius * .35)}Z",
-                   fill=shade(colour, .28))
-            + ellipse(x - radius * .33, y - radius * .38, radius * .26, radius * .17, fill=tint(colour, .65)))
 
 
 def soft_shadow(x, y, rx, ry=3.0):

@@ -1,25 +1,19 @@
 """Paper, slates and the things of a classroom."""
 
-from lib.lettering import number
-from lib.palette import (CORAL, FOX, INK, LEAF, PAPER, PLUM, SEA, SKY, SLATE, SUN, TEAL, WOOD, mix, shade, tint)
-from lib.svg import (LINE, ball, circle, ellipse, group, line, num, outlined, path, rect, soft_shadow, stroke)
+from lib.palette import CORAL, FOX, INK, LEAF, PAPER, PLUM, SEA, SKY, SLATE, SUN, TEAL, WOOD, mix, shade, tint
+from lib.svg import LINE, circle, ellipse, group, line, num, outlined, path, rect, soft_shadow, stroke
 
 BRIGHT = (CORAL, SUN, LEAF, SEA, PLUM, TEAL, FOX)
 
 
-def seyes(margin=None, left=0, top=0, right=640, bottom=480):
+def seyes():
     """Exercise-book paper: squares of 24 pixels, three fine lines in each, the margin line."""
     fine, bold = mix(PAPER, SKY, .16), mix(PAPER, SKY, .38)
-    parts = [rect(left, top, right - left, bottom - top, fill=PAPER)]
-    for y in range(top + 6, bottom, 6):
-        if (y - top) % 24:
-            parts.append(line(left, y + .5, right, y + .5, fine))
-    for x in range(left + 24 - left % 24, right, 24):
-        parts.append(line(x + .5, top, x + .5, bottom, bold))
-    for y in range(top + 24, bottom, 24):
-        parts.append(line(left, y + .5, right, y + .5, bold))
-    if margin is not None:
-        parts.append(line(margin + .5, top, margin + .5, bottom, mix(PAPER, CORAL, .55), 1.5))
+    parts = [rect(0, 0, 640, 480, fill=PAPER)]
+    parts += [line(0, y + .5, 640, y + .5, fine) for y in range(6, 480, 6) if y % 24]
+    parts += [line(x + .5, 0, x + .5, 480, bold) for x in range(24, 640, 24)]
+    parts += [line(0, y + .5, 640, y + .5, bold) for y in range(24, 480, 24)]
+    parts.append(line(48.5, 0, 48.5, 480, mix(PAPER, CORAL, .5), 1.6))
     return "".join(parts)
 
 
@@ -115,12 +109,6 @@ def pencil(x, y, length, colour, turn=0, thick=9):
         path(f"M{num(length - t * 1.8)} {num(-t)}H{num(length - t)}Q{num(length)} {num(-t)} {num(length)} 0"
              f"Q{num(length)} {num(t)} {num(length - t)} {num(t)}H{num(length - t * 1.8)}Z", **outlined(tint(CORAL, .35))),
         x=x, y=y, turn=turn)
-
-
-def ruler(x, y, length, turn=0, tall=13):
-    marks = "".join(line(4 + i * 5, 1, 4 + i * 5, 7 if i % 5 == 0 else 4, shade(WOOD, .6), 1)
-                    for i in range(int((length - 6) / 5) + 1))
-    return group(rect(0, 0, length, tall, 2, **outlined(tint(WOOD, .35))), marks, x=x, y=y, turn=turn)
 
 
 def stick(x, y, length, colour=PAPER, turn=0, thick=6):

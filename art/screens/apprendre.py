@@ -2,9 +2,9 @@
 
 from lib import fox
 from lib.lettering import number, width_of
-from lib.palette import CORAL, INK, LEAF, PAPER, PLUM, SEA, SKY, SLATE, SUN, TEAL, WOOD, mix, shade, tint
+from lib.palette import CORAL, LEAF, PAPER, PLUM, SEA, SKY, SLATE, SUN, WOOD, mix, tint
 from lib.strip import PITCH, SMALL
-from lib.svg import circle, ellipse, line, outlined, page, path, rect, stroke
+from lib.svg import ellipse, line, outlined, page, rect
 from lib.things import card, counter, cubes, pencil, seyes, slate, stick
 
 ROW_TOP, ROW_PITCH, ROW_HEIGHT = 56, 31, 25

@@ -4,8 +4,8 @@ from math import cos, pi, sin
 
 from lib import fox
 from lib.lettering import number, sticker
-from lib.palette import CORAL, INK, LEAF, PAPER, PLUM, SEA, SKY, SLATE, SUN, TABLES, TEAL, WOOD, mix, shade, tint
-from lib.svg import circle, ellipse, group, line, outlined, page, path, rect, soft_shadow, stroke
+from lib.palette import CORAL, INK, LEAF, PLUM, SEA, SKY, SUN, TABLES, TEAL, mix, shade, tint
+from lib.svg import circle, line, outlined, page, path, rect, soft_shadow
 from lib.things import bunting, card, cube, seyes, star
 
 ROW_TOPS = (192, 219, 246, 272, 298, 323, 349, 375, 401, 427, 454)

@@ -3,7 +3,7 @@
 from lib import fox
 from lib.lettering import number, sticker
 from lib.palette import CORAL, INK, LEAF, PAPER, PLUM, SEA, SKY, SLATE, SUN, TABLES, TEAL, WOOD, mix, shade, tint
-from lib.svg import ball, circle, ellipse, group, line, outlined, page, path, rect, soft_shadow, stroke
+from lib.svg import circle, ellipse, group, line, outlined, page, path, rect, soft_shadow, stroke
 from lib.things import abacus, apple, book, card, counter, cube, plate, pot, seyes, slate, tag
 
 TAGS = [(2, 120, 60, 34), (3, 160, 88, 34), (4, 200, 116, 34), (5, 240, 144, 34), (6, 280, 172, 34), (7, 320, 200, 34),

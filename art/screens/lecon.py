@@ -2,9 +2,9 @@
 
 from lib import fox
 from lib.lettering import number, width_of
-from lib.palette import CORAL, FOX, INK, LEAF, PAPER, PLUM, SEA, SKY, SLATE, SUN, TEAL, WOOD, mix, shade, tint
-from lib.svg import circle, ellipse, group, line, outlined, page, path, rect, soft_shadow, stroke
-from lib.things import abacus, apple, book, card, counter, cube, cubes, open_book, pencil, pot, seyes, slate
+from lib.palette import CORAL, INK, LEAF, PAPER, PLUM, SEA, SLATE, SUN, TEAL, WOOD, shade, tint
+from lib.svg import circle, group, line, outlined, page, path, rect
+from lib.things import apple, cube, cubes, open_book, pencil, pot, seyes, slate
 
 
 def note(d, colour):

@@ -2,8 +2,8 @@
 
 from lib import fox
 from lib.lettering import number, sticker
-from lib.palette import CORAL, FOX, INK, LEAF, PAPER, PLUM, SEA, SKY, SLATE, SUN, TEAL, WOOD, mix, shade, tint
-from lib.svg import circle, ellipse, group, line, num, outlined, page, path, rect, soft_shadow, stroke
+from lib.palette import CORAL, INK, LEAF, PAPER, SEA, SKY, SLATE, SUN, WOOD, mix, tint
+from lib.svg import circle, group, line, num, outlined, page, path, rect, stroke
 from lib.things import cloud, plate
 
 ROW_TOPS = (104, 123, 142, 162, 181, 200, 219, 238, 257, 276, 295)  # of the first column's numbers
