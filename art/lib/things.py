@@ -131,8 +131,8 @@ def open_book(x, y, width, height, colour):
     """Standing open towards us, lines on its pages; (x, y) is the middle of its lower edge."""
     w, h = width / 2, height
     def side(flip):
-        rules = "".join(stroke(f"M6 {num(-h + 11 + i * 7)}Q{num(w * .5)} {num(-h + 6 + i * 7)} {num(w - 7)} {num(-h + 10 + i * 7)}",
-                               mix(PAPER, SEA, .5), 1.2) for i in range(int((h - 14) / 7)))
+        rules = "".join(stroke(f"M6 {y}Q{num(w * .5)} {y - 5} {num(w - 7)} {y - 1}", mix(PAPER, SEA, .5), 1.2)
+                        for y in range(11 - h, -3, 7))
         return group(path(f"M0 2Q{num(w * .5)} -7 {num(w + 4)} 0V{num(-h + 3)}Q{num(w * .5)} {num(-h - 4)} 0 {num(-h + 5)}Z",
                           **outlined(colour)),
                      path(f"M0 -2Q{num(w * .5)} -10 {num(w)} -4V{num(-h)}Q{num(w * .5)} {num(-h - 6)} 0 {num(-h + 3)}Z",
@@ -168,19 +168,13 @@ def plate(x, y, width, height):
 
 
 def apple(x, y, radius):
-    r = radius
-    return "".join([
-        path(f"M{x} {num(y - r * .6)}C{num(x + r * .7)} {num(y - r * 1.2)} {num(x + r * 1.35)} {num(y - r * .4)} {num(x + r * 1.1)} {num(y + r * .3)}"
-             f"C{num(x + r * .9)} {num(y + r * 1.1)} {num(x + r * .4)} {num(y + r * 1.2)} {x} {num(y + r)}"
-             f"C{num(x - r * .4)} {num(y + r * 1.2)} {num(x - r * .9)} {num(y + r * 1.1)} {num(x - r * 1.1)} {num(y + r * .3)}"
-             f"C{num(x - r * 1.35)} {num(y - r * .4)} {num(x - r * .7)} {num(y - r * 1.2)} {x} {num(y - r * .6)}Z", **outlined(CORAL)),
-        path(f"M{num(x + r * .95)} {num(y - r * .25)}C{num(x + r * 1.05)} {num(y + r * .5)} {num(x + r * .6)} {num(y + r * .95)} {num(x + r * .1)} {num(y + r * .85)}"
-             f"C{num(x + r * .5)} {num(y + r * .6)} {num(x + r * .8)} {num(y + r * .3)} {num(x + r * .95)} {num(y - r * .25)}Z", fill=shade(CORAL, .25)),
-        ellipse(x - r * .5, y - r * .2, r * .2, r * .3, fill=tint(CORAL, .55)),
-        stroke(f"M{x} {num(y - r * .55)}Q{num(x - 1)} {num(y - r * 1.1)} {num(x + 2)} {num(y - r * 1.4)}", shade(WOOD, .6), 2.4),
-        path(f"M{num(x + 1)} {num(y - r)}Q{num(x + r * .3)} {num(y - r * 1.7)} {num(x + r * 1.1)} {num(y - r * 1.4)}"
-             f"Q{num(x + r * .8)} {num(y - r * .8)} {num(x + 1)} {num(y - r)}Z", **outlined(LEAF, 1.4)),
-    ])
+    width = LINE * 10 / radius
+    return group(
+        path("M0 -6C7 -12 13.5 -4 11 3C9 11 4 12 0 10C-4 12 -9 11 -11 3C-13.5 -4 -7 -12 0 -6Z", **outlined(CORAL, width)),
+        path("M9.5 -2.5C10.5 5 6 9.5 1 8.5C5 6 8 3 9.5 -2.5Z", fill=shade(CORAL, .25)),
+        ellipse(-5, -2, 2, 3, fill=tint(CORAL, .55)),
+        stroke("M0 -5.5Q-1 -11 2 -14", shade(WOOD, .6), 2),
+        path("M1 -10Q3 -17 11 -14Q8 -8 1 -10Z", **outlined(LEAF, width)), x=x, y=y, scale=radius / 10)
 
 
 def pot(x, y, colour=TEAL):
@@ -202,8 +196,8 @@ def bunting(width, y, count=16):
                     shade(WOOD, .5), 1.8)]
     for i in range(count):
         x, colour = step * (i + .5), BRIGHT[i % len(BRIGHT)]
-        parts.append(path(f"M{num(x - 11)} {y + 2.6}Q{num(x)} {y + 5} {num(x + 11)} {y + 2.6}L{num(x)} {y + 27}Z", **outlined(colour)))
-        parts.append(path(f"M{num(x + 3)} {y + 4.5}L{num(x + 9.3)} {y + 4}L{num(x + .3)} {y + 24}Z", fill=shade(colour, .18)))
+        parts.append(group(path("M-11 2.6Q0 5 11 2.6L0 27Z", **outlined(colour)),
+                           path("M3 4.5L9.3 4L.3 24Z", fill=shade(colour, .18)), x=x, y=y))
     return "".join(parts)
 
 

@@ -2,7 +2,7 @@
 
 from lib import fox
 from lib.lettering import number, width_of
-from lib.palette import CORAL, LEAF, PAPER, PLUM, SEA, SKY, SLATE, SUN, WOOD, mix, tint
+from lib.palette import CORAL, LEAF, PAPER, PLUM, SEA, SKY, SLATE, SUN, mix, tint
 from lib.strip import PITCH, SMALL
 from lib.svg import ellipse, line, outlined, page, rect
 from lib.things import card, counter, cubes, pencil, seyes, slate, stick
@@ -31,18 +31,18 @@ def board():
     return "".join(parts)
 
 
-def title():
-    return (card(112, 5, 416, 35, SUN, radius=12, fill="#FFFFFF"))
+def tray():
+    """Small things on the line below the sheets."""
+    return "".join([
+        pencil(252, 460, 92, SUN, thick=8), stick(356, 461, 24), stick(386, 461, 18, tint(CORAL, .45)),
+        cubes(416, 454.5, 10, (CORAL, SUN, LEAF)), *(counter(470 + 17 * i, 458, 5.5, c) for i, c in enumerate((SEA, PLUM, CORAL))),
+    ])
 
 
 def draw():
-    parts = [seyes()]
-    parts += [fox.head(62, 34, .47, mood="right"), board(),
-              ellipse(32, 50, 8, 5.5, **outlined(fox.PAW)), ellipse(92, 50, 8, 5.5, **outlined(fox.PAW))]
-    parts.append(title())
-    parts += [card(LEFT, top, WIDTH, height, colour, bar=9) for top, height, colour in PANELS]
-    parts.append(cubes(550, 21, 15, (CORAL, SUN, LEAF, SEA)))
-    parts.append(rect(236, 472, 304, 7, 3, **outlined(WOOD)) + line(240, 474.3, 535, 474.3, tint(WOOD, .45), 1.3))
-    parts.append(pencil(244, 466.5, 104, SUN) + stick(362, 468, 26) + stick(394, 468, 20, tint(CORAL, .45)))
-    parts += [counter(434 + 22 * i, 463, 8, c) for i, c in enumerate((CORAL, SUN, LEAF, SEA, PLUM))]
-    return page("".join(parts))
+    sheets = [card(LEFT, top, WIDTH, height, colour, bar=9) for top, height, colour in PANELS]
+    paws = [ellipse(x, 50, 8, 5.5, **outlined(fox.PAW)) for x in (32, 92)]
+    return page("".join([
+        seyes(), rect(120, 2, 400, 42, 10, fill=PAPER), fox.head(62, 34, .47, mood="right"), board(), *paws, *sheets,
+        cubes(550, 21, 15, (CORAL, SUN, LEAF, SEA)), tray(),
+    ]))

@@ -5,7 +5,7 @@ from math import cos, pi, sin
 from lib import fox
 from lib.lettering import number, sticker
 from lib.palette import CORAL, INK, LEAF, PLUM, SEA, SKY, SUN, TABLES, TEAL, mix, shade, tint
-from lib.svg import circle, line, outlined, page, path, rect, soft_shadow
+from lib.svg import circle, group, line, outlined, page, path, rect, soft_shadow
 from lib.things import bunting, card, cube, seyes, star
 
 ROW_TOPS = (192, 219, 246, 272, 298, 323, 349, 375, 401, 427, 454)
@@ -52,14 +52,13 @@ def towers():
 
 def medal(x, y):
     """A rosette with the sign of multiplication."""
-    petals = "".join(circle(x + 25 * cos(a * pi / 6), y + 25 * sin(a * pi / 6), 8, **outlined(CORAL)) for a in range(12))
-    return "".join([
-        path(f"M{x - 16} {y + 18}L{x - 24} {y + 54}L{x - 12} {y + 47}L{x - 4} {y + 56}L{x + 2} {y + 22}Z", **outlined(shade(CORAL, .15))),
-        path(f"M{x + 16} {y + 18}L{x + 24} {y + 54}L{x + 12} {y + 47}L{x + 4} {y + 56}L{x - 2} {y + 22}Z", **outlined(CORAL)),
-        petals, circle(x, y, 26, fill=CORAL), circle(x, y, 22, **outlined(SUN)),
-        circle(x, y, 17.5, fill="none", stroke=tint(SUN, .5), stroke_width=1.6),
-        sticker("×", x, y, 30, "#FFFFFF"),
-    ])
+    petals = [circle(25 * cos(a * pi / 6), 25 * sin(a * pi / 6), 8, **outlined(CORAL)) for a in range(12)]
+    ribbon = "M16 18L24 54L12 47L4 56L-2 22Z"
+    return group(
+        group(path(ribbon, **outlined(shade(CORAL, .15))), flip=True), path(ribbon, **outlined(CORAL)),
+        *petals, circle(0, 0, 26, fill=CORAL), circle(0, 0, 22, **outlined(SUN)),
+        circle(0, 0, 17.5, fill="none", stroke=tint(SUN, .5), stroke_width=1.6),
+        sticker("×", 0, 0, 30, "#FFFFFF"), x=x, y=y)
 
 
 def draw():
