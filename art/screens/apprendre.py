@@ -40,7 +40,7 @@ def tray():
 
 
 def draw():
-    sheets = [card(LEFT, top, WIDTH, height, colour, bar=9) for top, height, colour in PANELS]
+    sheets = [card(LEFT, top, WIDTH, height, colour, bar=5) for top, height, colour in PANELS]
     paws = [ellipse(x, 50, 8, 5.5, **outlined(fox.PAW)) for x in (32, 92)]
     return page("".join([
         seyes(), rect(120, 2, 400, 42, 10, fill=PAPER), fox.head(62, 34, .47, mood="right"), board(), *paws, *sheets,
