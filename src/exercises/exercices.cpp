@@ -1,6 +1,39 @@
 #include "exercises/exercices.h"
 
+namespace {
+
+constexpr Color kRule{120, 150, 205};
+
+}  // namespace
+
+// The rules: below the two areas at the top, below the band of the third exercise, below that of the first;
+// between left and right at the top and at the bottom; above "RETOUR".
 Exercices::Exercices(Stage& stage, SharedState& shared, Form& depart)
-    : form(stage), retour(form, {552_px, 460_px, 76_px, 17_px}, "RETOUR", kButton) {
-    retour.on_click = [this, &shared, &depart] { ReturnToStart(shared.sounds, depart, form); };
+    : form(stage),
+      Line1(form, {180, 2340}, {9420, 2340}, 1_px, kRule),
+      Line2(form, {180, 3780}, {9420, 3780}, 1_px, kRule),
+      Line3(form, {180, 5010}, {9420, 5010}, 1_px, kRule),
+      Line4(form, {4800, 180}, {4800, 2265}, 1_px, kRule),
+      Line5(form, {4800, 5085}, {4800, 7020}, 1_px, kRule),
+      Line8(form, {4875, 6765}, {9420, 6765}, 1_px, kRule),
+      membership(form, shared),
+      product(form, shared),
+      factor_pair(form, shared),
+      missing_factor(form, shared),
+      factored_sum(form, shared),
+      note_factor(form, shared),
+      fin(form, {8280, 6870, 1155, 285}, "RETOUR", kButton),
+      random_(shared.random) {
+    form.on_activate = [this] { Form_Activate(); };
+    fin.on_click = [this, &shared, &depart] { ReturnToStart(shared.sounds, depart, form); };
+}
+
+void Exercices::Form_Activate() {
+    random_.Randomize();
+    membership.NewMembershipExercise();
+    product.NewProductExercise();
+    factor_pair.NewFactorPairExercise();
+    missing_factor.NewMissingFactorExercise();
+    factored_sum.NewFactoredSumExercise();
+    note_factor.NewNoteFactorExercise();
 }

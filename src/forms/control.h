@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <initializer_list>
 
 #include "forms/drawing.h"
 
@@ -49,6 +50,10 @@ class Control {
     bool visible_ = true;
     bool enabled_ = true;
 };
+
+inline void SetAllVisible(bool visible, std::initializer_list<Control*> controls) {
+    for (Control* control : controls) control->SetVisible(visible);
+}
 
 // A click zone, or a picture drawn at its own size from the top-left corner of its box.
 class Image final : public Control {

@@ -21,3 +21,13 @@ inline const LabelStyle kButton{.font = {8.25_pt, true},
                                 .frame = Color{154, 103, 10},
                                 .radius = 5_px,
                                 .outset = 3_px};
+
+inline LabelStyle Aligned(LabelStyle style, Align align) {
+    style.align = align;
+    return style;
+}
+
+inline LabelStyle AutoSized(LabelStyle style, AutoSize auto_size) {
+    style.auto_size = auto_size;
+    return style;
+}

@@ -18,6 +18,7 @@ class UpDown final : public Control {
     UpDown(Form& form, const Rect& box, const Range& range, const Label& answer);
 
     int value() const { return value_; }
+    int minimum() const { return range_.minimum; }
     // Values outside the range are brought to its nearest end.
     void SetValue(int value);
     void SetIncrement(int increment) { increment_ = increment; }

@@ -14,22 +14,14 @@ void Panel::Count(bool right) {
     }
 }
 
-void Panel::Sound(bool right) {
-    if (right) {
-        sounds().PlayVictorySound();
-    } else {
-        sounds().PlayDefeatSound();
-    }
-}
-
 void Panel::SoundAndCount(bool right) {
-    Sound(right);
+    sounds().PlayVerdictSound(right);
     Count(right);
 }
 
 void Panel::CountAndSound(bool right) {
     Count(right);
-    Sound(right);
+    sounds().PlayVerdictSound(right);
 }
 
 void Panel::ShowNumber(const UpDown& arrows, Label& answer) {

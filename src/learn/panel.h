@@ -1,7 +1,5 @@
 #pragma once
 
-#include <initializer_list>
-
 #include "forms/look.h"
 #include "forms/up_down.h"
 #include "services/texts.h"
@@ -18,20 +16,6 @@ inline const LabelStyle kPanelAnswer{.font = {12.0_pt, true},
                                      .frame = kInk,
                                      .radius = 3_px};
 inline const LabelStyle kPanelMessage{.font = {9.75_pt, false}, .color = kInk};
-
-inline LabelStyle Aligned(LabelStyle style, Align align) {
-    style.align = align;
-    return style;
-}
-
-inline LabelStyle AutoSized(LabelStyle style, AutoSize auto_size) {
-    style.auto_size = auto_size;
-    return style;
-}
-
-inline void SetAllVisible(bool visible, std::initializer_list<Control*> controls) {
-    for (Control* control : controls) control->SetVisible(visible);
-}
 
 class Panel {
   protected:
@@ -50,7 +34,6 @@ class Panel {
     void ShowNumber(const UpDown& arrows, Label& answer);
 
   private:
-    void Sound(bool right);
     void Count(bool right);
 
     SharedState& shared_;

@@ -32,6 +32,14 @@ void Sounds::PlayDefeatSound() {
     Play(Digits(Advance(DefeatSoundCounter, 4)) + ".def");
 }
 
+void Sounds::PlayVerdictSound(bool right) {
+    if (right) {
+        PlayVictorySound();
+    } else {
+        PlayDefeatSound();
+    }
+}
+
 void Sounds::Play(const std::string& name) {
     platform_.StopSound();
     platform_.StartSound(DataFile(platform_, name));

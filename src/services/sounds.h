@@ -18,6 +18,8 @@ class Sounds {
     void PlayNavigationSound(std::string_view name);
     void PlayVictorySound();
     void PlayDefeatSound();
+    // The victory or the defeat sound.
+    void PlayVerdictSound(bool right);
 
     // The gate of the click sound: open while it is 1.
     int ClickSoundEnabled = 0;

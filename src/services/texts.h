@@ -5,7 +5,8 @@
 // Texts that exercises of several screens have in common.
 
 inline const std::string kUnanswered = "??";
-inline const std::string kContinueLine = "\rCliquez sur Continuer pour un autre exercice.";
+inline const std::string kContinue = "Cliquez sur Continuer pour un autre exercice.";
+inline const std::string kContinueLine = "\r" + kContinue;
 inline const std::string kEnterAnswer =
     "Entrez votre réponse grâce aux flèches puis cliquez sur cette réponse pour la correction.";
 inline const std::string kEnterAnswers =

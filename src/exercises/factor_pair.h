@@ -1,0 +1,50 @@
+#pragma once
+
+#include <string>
+
+#include "exercises/exercise_panel.h"
+
+// A product of two different tables: any of its divisors within the tables is asked, then the other factor.
+struct FactorPairQuestion {
+    int PairFirst;  // both 3 to 12
+    int PairSecond;
+
+    static FactorPairQuestion Draw(Random& random);
+    int PairProduct() const { return PairFirst * PairSecond; }
+    bool IsDivisor(int factor) const { return PairProduct() % factor == 0; }
+    std::string Text() const;
+    // The equation that a divisor begins.
+    std::string Begun(int divisor) const;
+    std::string NoDivisor() const;
+    std::string Correction(bool right, int divisor) const;
+};
+
+// The third exercise, across the screen.
+class FactorPairPanel : private ExercisePanel {
+  public:
+    FactorPairPanel(Form& form, SharedState& shared);
+
+    void NewFactorPairExercise();
+
+    // The second answer takes its place behind the equation.
+    // clang-format off
+    struct Ui {
+        Form& form;
+        //                   left  top   width height
+        Label enonce3     { form, {  240, 2850,    0, 195 }, "dgdg",      AutoSized(kExerciseLine, AutoSize::kKeepLeft) };
+        Label chiffre4    { form, { 5595, 2850,  240, 195 }, kUnanswered, Answer(3_px) };
+        Label chiffre5    { form, { 1500, 2850,  240, 195 }, kUnanswered, Answer(3_px) };
+        Label texte2      { form, {  240, 3135, 5220, 600 }, "",          kExerciseMessage };
+        Label encor_trois { form, { 5595, 3450,  990, 240 }, "Continuer", kExerciseButton };
+        UpDown flech3     { form, ArrowOver(chiffre4),       { 3, 12 },   chiffre4 };
+        UpDown flech4     { form, ArrowOver(chiffre5),       { 0, 100 },  chiffre5 };
+    } ui;
+    // clang-format on
+
+  private:
+    void chiffre4_Click();
+    void chiffre5_Click();
+    void AskForSecondFactor();
+
+    FactorPairQuestion question_{};
+};

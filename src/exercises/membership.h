@@ -1,0 +1,59 @@
+#pragma once
+
+#include <string>
+
+#include "exercises/exercise_panel.h"
+
+// Whether a number is a result of a table and, when it is, by which factor.
+struct MembershipQuestion {
+    int number;
+    int MembershipTable;  // 2 to 12
+
+    static MembershipQuestion Draw(Random& random);
+    bool IsMember() const { return number % MembershipTable == 0; }
+    int Factor() const { return number / MembershipTable; }
+
+    std::string Text() const;
+    std::string AfterOui() const;
+    std::string AfterNon() const;
+    // Of the factor, within the equation that stands around it.
+    std::string Correction(bool right) const;
+    std::string BeforeFactor() const;
+    std::string BehindFactor() const;
+
+  private:
+    std::string NoMember() const;
+};
+
+// The first exercise, below the third.
+class MembershipPanel : private ExercisePanel {
+  public:
+    MembershipPanel(Form& form, SharedState& shared);
+
+    void NewMembershipExercise();
+
+    // clang-format off
+    struct Ui {
+        Form& form;
+        //                 left  top   width height
+        Label chiffre1  { form, {  240, 3870,  420, 195 }, "",           Aligned(kExerciseLine, Align::kRight) };
+        Label probleme1 { form, {  705, 3870, 3900, 195 }, "",           kExerciseLine };
+        Label oui       { form, { 2940, 4515,  675, 255 }, "OUI",        kExerciseButton };
+        Label non       { form, { 3870, 4515,  675, 255 }, "NON",        kExerciseButton };
+        Label lab       { form, { 3645, 4545,  120, 195 }, "",           AutoSized(kExerciseLine, AutoSize::kKeepRight) };
+        Label chiffre2  { form, { 3765, 4545,  240, 195 }, kUnanswered,  Answer(0) };
+        Label lab2      { form, { 4050, 4545,  600, 195 }, "",           kExerciseLine };
+        Label enonce1   { form, { 4890, 3870, 4530, 600 }, "Cliquez sur OUI ou NON pour répondre", kExerciseMessage };
+        Label encor_un  { form, { 4890, 4665,  990, 240 }, "Continuer",  kExerciseButton };
+        UpDown flech1   { form, ArrowOver(chiffre2),       { 0, 200 },   chiffre2 };
+    } ui;
+    // clang-format on
+
+  private:
+    void oui_Click();
+    void non_Click();
+    void chiffre2_Click();
+    void AskForFactor();
+
+    MembershipQuestion question_{};
+};

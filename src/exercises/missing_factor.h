@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+
+#include "exercises/exercise_panel.h"
+
+// The first factor of a product is asked.
+struct MissingFactorQuestion {
+    int MissingFactor;  // both 2 to 11
+    int second;
+
+    static MissingFactorQuestion Draw(Random& random);
+    std::string Text() const;
+    std::string Correction(bool right) const;
+};
+
+// The fourth exercise, at the top left.
+class MissingFactorPanel : private ExercisePanel {
+  public:
+    MissingFactorPanel(Form& form, SharedState& shared);
+
+    void NewMissingFactorExercise();
+
+    // clang-format off
+    struct Ui {
+        Form& form;
+        //                    left  top   width height
+        Label chiffre6     { form, { 1410,  750,  240, 195 }, kUnanswered,  Answer(3_px) };
+        Label enonce4      { form, { 1755,  750, 1785, 195 }, "dgdg",       kExerciseLine };
+        Label texte3       { form, {  240, 1140, 4350, 780 }, kEnterAnswer, kExerciseMessage };
+        Label encor_quatre { form, { 2760, 2025,  990, 240 }, "Continuer",  kExerciseButton };
+        UpDown flech5      { form, ArrowOver(chiffre6),       { 0, 12 },    chiffre6 };
+    } ui;
+    // clang-format on
+
+  private:
+    void chiffre6_Click();
+
+    MissingFactorQuestion question_{};
+};

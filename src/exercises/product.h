@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string>
+
+#include "exercises/exercise_panel.h"
+
+// A product of two tables is asked.
+struct ProductQuestion {
+    int first;  // both 2 to 12
+    int second;
+
+    static ProductQuestion Draw(Random& random);
+    int ProductAnswer() const { return first * second; }
+    std::string Text() const;
+    std::string Correction(bool right) const;
+};
+
+// The second exercise, at the top right.
+class ProductPanel : private ExercisePanel {
+  public:
+    ProductPanel(Form& form, SharedState& shared);
+
+    void NewProductExercise();
+
+    // clang-format off
+    struct Ui {
+        Form& form;
+        //                  left  top   width height
+        Label enonce2    { form, { 5160,  750, 1785, 195 }, "12 X",       Aligned(kExerciseLine, Align::kRight) };
+        Label chiffre3   { form, { 7020,  750,  240, 195 }, kUnanswered,  Answer(3_px) };
+        Label texte      { form, { 5040, 1140, 4350, 780 }, "",           kExerciseMessage };
+        Label encor_deux { form, { 8445, 2025,  990, 240 }, "Continuer",  kExerciseButton };
+        UpDown flech2    { form, ArrowOver(chiffre3),       { 0, 144 },   chiffre3 };
+    } ui;
+    // clang-format on
+
+  private:
+    void chiffre3_Click();
+
+    ProductQuestion question_{};
+};
