@@ -29,7 +29,9 @@ void Control::SetVisible(bool visible) {
 }
 
 void Control::SetEnabled(bool enabled) {
+    if (enabled == enabled_) return;
     enabled_ = enabled;
+    if (visible_) Damage();
 }
 
 void Image::SetPicture(PicturePtr picture) {

@@ -44,13 +44,14 @@ void Label::Paint(Canvas& canvas) const {
 void Label::PaintText(Canvas& canvas) const {
     const TextLayout layout = Layout();
     const Rect place = TextBox();
+    const Color color = enabled() ? style_.color : style_.disabled_color.value_or(style_.color);
     int top = place.top;
     if (style_.middle) top += (place.height - layout.Height()) / 2;
     for (const TextLine& line : layout.lines) {
         int left = place.left;
         if (style_.align == Align::kCenter) left += (place.width - line.width) / 2;
         if (style_.align == Align::kRight) left += place.width - line.width;
-        canvas.DrawTextLine({left, top}, line.text, layout.font, style_.color);
+        canvas.DrawTextLine({left, top}, line.text, layout.font, color);
         top += layout.line_height;
     }
 }

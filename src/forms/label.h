@@ -14,6 +14,7 @@ enum class AutoSize { kNone, kKeepLeft, kKeepRight };
 struct LabelStyle {
     Font font{};
     Color color{};
+    std::optional<Color> disabled_color{};  // while the label is disabled, where that shows
     Align align = Align::kLeft;
     bool middle = false;          // the text stands at half height, else at the top
     std::optional<Color> fill{};  // transparent without

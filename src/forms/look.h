@@ -6,6 +6,9 @@
 
 inline constexpr Color kBlack{0, 0, 0};
 inline constexpr Color kInk{38, 50, 82};
+inline constexpr Color kRed{255, 0, 0};
+inline constexpr Color kBlue{0, 0, 255};
+inline constexpr Color kPurple{192, 0, 192};
 
 inline constexpr Color kArrowFill{255, 214, 102};
 inline constexpr Color kHeldArrowFill{240, 176, 48};

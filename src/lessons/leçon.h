@@ -1,7 +1,7 @@
 #pragma once
 
 #include "forms/form.h"
-#include "forms/look.h"
+#include "forms/label.h"
 #include "stats/shared_state.h"
 
 // The reminders about multiplication.
@@ -10,6 +10,9 @@ class Leçon {
     Leçon(Stage& stage, SharedState& shared, Form& depart);
 
     Form form;
-    Label l9;
+    Line Line1, Line2, Line3, Line4, Line5;
+    Label l1, l2, l3, l4, l5, l6, l7, l8;
+    Label l9;  // the worked example that l10 ends with, filled at start-up
+    Label l10;
     Label retour;
 };

@@ -6,10 +6,7 @@
 
 namespace {
 
-constexpr Color kRed{255, 0, 0};
-constexpr Color kPurple{192, 0, 192};
 constexpr Color kBrown{192, 64, 0};
-constexpr Color kBlue{0, 0, 255};
 
 constexpr std::array<Rect, 11> kNumberZones{{{1800, 900, 510, 855},
                                              {2400, 1320, 510, 855},

@@ -19,7 +19,7 @@ class HeadlessPicture final : public Picture {
 };
 
 // Records the texts that a page shows, in the order of painting.
-class TextCanvas final : public Canvas {
+class TextCanvas : public Canvas {
   public:
     void DrawPicture(const Picture&, Point) override {}
     void FillBox(const Rect&, Color, int) override {}

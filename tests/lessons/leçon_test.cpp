@@ -1,0 +1,69 @@
+#include "lessons/leçon.h"
+
+#include <regex>
+
+#include "support/pupil.h"
+
+namespace {
+
+TEST(Leçon, EachOpeningIsCounted) {
+    Pupil pupil;
+    for (int opening = 1; opening <= 2; ++opening) {
+        pupil.Click(opening == 1 ? static_cast<Control&>(pupil.screens.depart.Label2)
+                                 : pupil.screens.depart.apprendre_leçon);
+        EXPECT_TRUE(pupil.Sees(pupil.screens.leçon.form));
+        EXPECT_EQ(pupil.Heard(), Names{"5"});
+        pupil.Tap(pupil.screens.leçon.l5);
+        pupil.Click(pupil.screens.leçon.retour);
+        EXPECT_TRUE(pupil.Sees(pupil.screens.depart.form));
+        EXPECT_EQ(pupil.Heard(), Names{"3"});
+    }
+    EXPECT_EQ(pupil.Quit().LessonConsultations, TaggedNumber::Integer(2));
+}
+
+TEST(Leçon, EveryReminderIsReadableInItsBoxAndTrue) {
+    Pupil pupil;
+    Leçon& page = pupil.screens.leçon;
+    int examples = 0;
+    for (const Label* text : {&page.l1, &page.l2, &page.l3, &page.l4, &page.l5, &page.l6, &page.l7, &page.l8,
+                              &page.l9, &page.l10}) {
+        const std::string& caption = text->caption();
+        SCOPED_TRACE(caption);
+        EXPECT_LE(text->Layout().Height(), text->box().height);
+        EXPECT_LE(text->Layout().Width(), text->box().width);
+        EXPECT_GE(text->Layout().font.height, 6.5_pt);
+        const std::regex product("(\\d+) X (\\d+) = (\\d+)(?! X)");
+        for (std::sregex_iterator found(caption.begin(), caption.end(), product), end; found != end;
+             ++found) {
+            EXPECT_EQ(std::stoi(found->str(1)) * std::stoi(found->str(2)), std::stoi(found->str(3)));
+            ++examples;
+        }
+    }
+    EXPECT_EQ(examples, 5);
+    EXPECT_NE(page.l8.caption().find("entre le 2 et le 6  --> 286.  Autre exemple"), std::string::npos);
+}
+
+// Records where lines of text end.
+class TextEnds final : public TextCanvas {
+  public:
+    explicit TextEnds(Platform& platform) : platform_(platform) {}
+    void DrawTextLine(Point at, std::string_view line, const Font& font, Color) override {
+        texts.emplace_back(line);
+        ends.push_back(at.x + platform_.MeasureText(line, font).width);
+    }
+
+    std::vector<int> ends;
+
+  private:
+    Platform& platform_;
+};
+
+TEST(Leçon, WorkedExampleHasItsDigitsOneUnderTheOther) {
+    Pupil pupil;
+    TextEnds canvas(pupil.platform);
+    pupil.screens.leçon.l9.Paint(canvas);
+    EXPECT_EQ(canvas.texts, (Names{"342", "X  57"}));
+    EXPECT_EQ(canvas.ends, (std::vector<int>{580_px, 580_px}));
+}
+
+}  // namespace

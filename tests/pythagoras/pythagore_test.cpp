@@ -1,0 +1,223 @@
+#include <algorithm>
+
+#include "support/pupil.h"
+
+namespace {
+
+using Times = std::vector<std::int64_t>;
+
+// A pupil who has the Pythagoras table open and has heard its opening.
+class PythagoreTest : public testing::Test {
+  protected:
+    PythagoreTest() { Open(); }
+
+    void Open() {
+        pupil.Click(pupil.screens.depart.pytha);
+        pupil.Heard();
+    }
+
+    void Leave() {
+        pupil.Click(screen.retour);
+        pupil.Heard();
+    }
+
+    void Solve(int column, int row) {
+        pupil.Click(screen.colonne[column]);
+        pupil.Click(screen.rangee[row]);
+    }
+
+    std::size_t Enabled() {
+        const auto enabled = [](const Label& label) { return label.enabled(); };
+        return static_cast<std::size_t>(std::count_if(screen.colonne.begin(), screen.colonne.end(), enabled) +
+                                        std::count_if(screen.rangee.begin(), screen.rangee.end(), enabled));
+    }
+
+    // Lets time pass and tells how many milliseconds after `start` each sound was heard.
+    Times HearUntil(std::int64_t start, std::int64_t end) {
+        Times times;
+        while (pupil.platform.now < start + end) {
+            pupil.Wait(1);
+            times.resize(times.size() + pupil.Heard().size(), pupil.platform.now - start);
+        }
+        return times;
+    }
+
+    Pupil pupil;
+    Pythagore& screen = pupil.screens.pythagore;
+};
+
+TEST_F(PythagoreTest, WordsOfAMultiplicationInTheOrderOfTheClicks) {
+    const struct {
+        bool column_first;
+        int first, second;
+        const char *half, *whole;
+    } cases[] = {{true, 0, 10, "0 que multiplie ?? = ??", "0 que multiplie 10 = 0"},
+                 {false, 8, 7, "8 que multiplie ?? = ??", "8 que multiplie 7 = 56"},
+                 {true, 7, 8, "7 que multiplie ?? = ??", "7 que multiplie 8 = 56"},
+                 {false, 10, 10, "10 que multiplie ?? = ??", "10 que multiplie 10 = 100"}};
+    for (const auto& [column_first, first, second, half, whole] : cases) {
+        SCOPED_TRACE(whole);
+        auto& one = column_first ? screen.colonne : screen.rangee;
+        auto& other = column_first ? screen.rangee : screen.colonne;
+        EXPECT_EQ(screen.operation.caption(), "8 que multiplie 7 = 56");
+        pupil.Click(one[first]);
+        EXPECT_EQ(screen.operation.caption(), half);
+        pupil.Tap(one[5]);  // the whole side is closed now
+        EXPECT_EQ(screen.operation.caption(), half);
+        EXPECT_EQ(Enabled(), 11U);
+        pupil.Click(other[second]);
+        EXPECT_EQ(screen.operation.caption(), whole);
+        EXPECT_EQ(Enabled(), 0U);
+        pupil.Wait(2000);
+        EXPECT_EQ(Enabled(), 22U);
+        Leave();
+        Open();
+    }
+    pupil.Click(screen.retour);
+    EXPECT_EQ(pupil.Quit().PythagoreSolves, TaggedNumber::Integer(4));
+}
+
+TEST_F(PythagoreTest, BarsCrossOnTheProduct) {
+    Solve(7, 8);
+    EXPECT_EQ(screen.cachehaut.box(), (Rect{376_px, 85_px, 20_px, 171_px}));
+    EXPECT_EQ(screen.cachelong.box(), (Rect{205_px, 237_px, 190_px, 20_px}));
+    pupil.Wait(2000);
+    pupil.Click(screen.rangee[0]);
+    EXPECT_EQ(screen.cachelong.box(), (Rect{205_px, 237_px, 38_px, 20_px}));
+    pupil.Click(screen.colonne[10]);
+    EXPECT_EQ(screen.cachehaut.box(), (Rect{224_px, 85_px, 20_px, 228_px}));
+    EXPECT_EQ(screen.cachelong.box(), (Rect{205_px, 294_px, 38_px, 20_px}));
+}
+
+TEST_F(PythagoreTest, BlinksTenTimesWithAClickEach) {
+    Solve(3, 4);
+    EXPECT_EQ(pupil.Heard(), (Names{"1", "2", "3"}));  // two picks and the first flash
+    const std::int64_t start = pupil.platform.now;
+    Times changes;
+    bool lit = true;
+    EXPECT_TRUE(screen.cachehaut.visible());
+    while (pupil.platform.now < start + 1999) {
+        pupil.Wait(1);
+        EXPECT_EQ(screen.cachehaut.visible(), screen.cachelong.visible());
+        if (screen.cachehaut.visible() != lit) changes.push_back(pupil.platform.now - start);
+        lit = screen.cachehaut.visible();
+        pupil.Tap(screen.colonne[1]);
+        pupil.Tap(screen.rangee[1]);
+    }
+    EXPECT_EQ(changes, (Times{50, 200, 250, 400, 450, 600, 650, 800, 850, 1000, 1050, 1200, 1250, 1400, 1450,
+                              1600, 1650, 1800, 1850}));
+    EXPECT_EQ(pupil.Heard(), (Names{"4", "5", "6", "7", "8", "9", "10", "1", "2"}));
+    EXPECT_EQ(Enabled(), 0U);
+    pupil.Wait(1);
+    EXPECT_EQ(Enabled(), 22U);
+    EXPECT_FALSE(pupil.program.stage().NextDue() < pupil.platform.now + 200) << "still awake after the blink";
+}
+
+TEST_F(PythagoreTest, LeavingDropsAHalfMadePair) {
+    pupil.Click(screen.colonne[9]);
+    pupil.Heard();
+    pupil.Click(screen.retour);
+    EXPECT_TRUE(pupil.Sees(pupil.screens.depart.form));
+    EXPECT_EQ(pupil.Heard(), Names{"3"});
+    Open();
+    EXPECT_EQ(screen.operation.caption(), "8 que multiplie 7 = 56");
+    pupil.Click(screen.colonne[4]);
+    EXPECT_EQ(screen.operation.caption(), "4 que multiplie ?? = ??");
+    Leave();
+    const Counters saved = pupil.Quit();
+    EXPECT_EQ(saved.PythagoreSolves, TaggedNumber::Integer(0));
+    EXPECT_EQ(saved.PythagoreConsultations, TaggedNumber::Integer(2));
+}
+
+TEST_F(PythagoreTest, ABlinkRunsOnUnseenAndOpensAllNumbersAtItsEnd) {
+    Solve(2, 6);
+    const std::int64_t start = pupil.platform.now;
+    pupil.Wait(120);
+    Leave();
+    EXPECT_TRUE(pupil.Sees(pupil.screens.depart.form));
+    EXPECT_EQ(HearUntil(start, 1000), (Times{200, 400, 600, 800, 1000}));
+    Open();
+    EXPECT_EQ(Enabled(), 22U);
+    pupil.Click(screen.colonne[3]);
+    EXPECT_EQ(Enabled(), 11U);
+    pupil.Wait(1000);
+    // Both sides are open again in the middle of a pair, which the same side may now complete.
+    EXPECT_EQ(Enabled(), 22U);
+    pupil.Click(screen.colonne[5]);
+    EXPECT_EQ(screen.operation.caption(), "3 que multiplie 5 = 15");
+    EXPECT_EQ(screen.cachehaut.box(), (Rect{338_px, 85_px, 20_px, 133_px}));
+    EXPECT_EQ(Enabled(), 11U) << "the row stays open during such a blink";
+    Leave();
+    EXPECT_EQ(pupil.Quit().PythagoreSolves, TaggedNumber::Integer(2));
+}
+
+TEST_F(PythagoreTest, ANewerBlinkGoesFirst) {
+    const struct {
+        std::int64_t second_pair;
+        Times older_flashes;  // after the newer blink's end
+        std::int64_t end;
+    } cases[] = {
+        // The older was dark: it flashes again at once, eight times.
+        {300, {2300, 2500, 2700, 2900, 3100, 3300, 3500, 3700}, 3900},
+        // The older was lit: its dark time is still to come.
+        {210, {2360, 2560, 2760, 2960, 3160, 3360, 3560, 3760}, 3960},
+        // The older had no flash left: it ends with the newer.
+        {1900, {}, 3900},
+    };
+    for (const auto& [second_pair, older_flashes, end] : cases) {
+        SCOPED_TRACE(second_pair);
+        Solve(1, 1);
+        const std::int64_t start = pupil.platform.now;
+        pupil.Wait(second_pair);
+        Leave();
+        Open();
+        Solve(9, 9);
+        pupil.Heard();
+        Times expected;
+        for (int flash = 1; flash < 10; ++flash) expected.push_back(second_pair + 200 * flash);
+        expected.insert(expected.end(), older_flashes.begin(), older_flashes.end());
+        EXPECT_EQ(HearUntil(start, second_pair + 1999), Times(expected.begin(), expected.begin() + 9));
+        EXPECT_EQ(Enabled(), 0U);
+        const Times rest = HearUntil(start, end - 1);
+        EXPECT_EQ(rest, older_flashes);
+        EXPECT_EQ(Enabled(), older_flashes.empty() ? 0U : 22U);
+        EXPECT_EQ(screen.cachelong.box().top, 275_px) << "the older goes on with the newer's bars";
+        EXPECT_EQ(HearUntil(start, end + 1000), Times{});
+        EXPECT_EQ(Enabled(), 22U);
+    }
+}
+
+// Records in which order boxes and numbers are painted, and in which colours.
+class PaintedNumbers final : public TextCanvas {
+  public:
+    void FillBox(const Rect&, Color color, int) override {
+        if (color == Color{255, 255, 0}) numbers_before_bars = colors.size();
+    }
+    void DrawTextLine(Point, std::string_view line, const Font&, Color color) override {
+        if (line.size() <= 2) colors.push_back(color);
+    }
+
+    std::vector<Color> colors;  // of the 22 numbers
+    std::size_t numbers_before_bars = 99;
+};
+
+TEST_F(PythagoreTest, ChosenNumbersAreSeenOnTheBars) {
+    const auto paint = [this] {
+        PaintedNumbers canvas;
+        pupil.program.stage().Paint(canvas, {0, 0, kPageWidth, kPageHeight});
+        return canvas;
+    };
+    const Color red{255, 0, 0};
+    EXPECT_EQ(paint().colors, std::vector<Color>(22, red));
+    pupil.program.stage().TakeDamage();
+    pupil.Click(screen.rangee[6]);
+    EXPECT_TRUE(pupil.program.stage().TakeDamage().Contains({225_px, 85_px}))
+        << "the closed side looks closed";
+    const auto half = paint();
+    EXPECT_EQ(std::count(half.colors.begin(), half.colors.end(), red), 11);
+    EXPECT_EQ(half.numbers_before_bars, 99U) << "bars before the pair is whole";
+    pupil.Click(screen.colonne[6]);
+    EXPECT_EQ(paint().numbers_before_bars, 0U);
+}
+
+}  // namespace

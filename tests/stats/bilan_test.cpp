@@ -1,0 +1,99 @@
+#include "stats/bilan.h"
+
+#include "support/pupil.h"
+
+namespace {
+
+// A pupil who starts with these counters.
+struct BilanTest : testing::Test {
+    void StartWith(const Counters& counters) {
+        UsageRecord record;
+        record.counters = counters;
+        const auto bytes = ToBytes(record);
+        pupil.platform.WriteData("18", {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+        pupil.program.Load();
+    }
+
+    Pupil pupil;
+    Bilan& screen = pupil.screens.bilan;
+};
+
+TEST_F(BilanTest, EveryCounterInItsPlace) {
+    Counters counters;
+    for (std::size_t i = 0; i < kStoredTables; ++i) {
+        counters.TableConsultations[i] = static_cast<std::int16_t>(100 + i);
+        counters.TableExercises[i] = static_cast<std::int16_t>(20000 + i);
+        counters.TableRight[i] = static_cast<std::int16_t>(300 + i);
+        counters.TableWrong[i] = static_cast<std::int16_t>(-32768 + static_cast<int>(i));
+    }
+    counters.PuzzleCount = 32767;
+    counters.PuzzleRight = -3;
+    counters.PuzzleWrong = 12;
+    StartWith(counters);
+    pupil.Click(pupil.screens.depart.dates);
+    for (int i = 0; i < kStoredTables; ++i) {
+        EXPECT_EQ(screen.consult[i].caption(), std::to_string(100 + i));
+        EXPECT_EQ(screen.exos[i].caption(), std::to_string(20000 + i));
+        EXPECT_EQ(screen.juste[i].caption(), std::to_string(300 + i));
+        EXPECT_EQ(screen.faux[i].caption(), std::to_string(-32768 + i));
+        EXPECT_EQ(screen.faux[i].Layout().font, screen.faux[i].style().font) << "has to be drawn smaller";
+    }
+    EXPECT_EQ(screen.n_exo.caption(), "32767");
+    EXPECT_EQ(screen.n_exoj.caption(), "-3");
+    EXPECT_EQ(screen.n_exof.caption(), "12");
+}
+
+TEST_F(BilanTest, ColumnsStandUnderTheirHeadings) {
+    const auto middle = [](const Label& label) { return label.box().left + label.box().width / 2; };
+    EXPECT_EQ(middle(screen.consult[0]), middle(screen.Label2));
+    EXPECT_EQ(middle(screen.exos[10]), middle(screen.Label3));
+    EXPECT_EQ(middle(screen.juste[0]), middle(screen.Label5));
+    EXPECT_EQ(middle(screen.faux[10]), middle(screen.Label6));
+    EXPECT_EQ(screen.consult[0].box(), (Rect{246_px, 192_px, 63_px, 28_px}));
+    EXPECT_EQ(screen.faux[10].box(), (Rect{425_px, 454_px, 63_px, 28_px}));
+}
+
+TEST_F(BilanTest, SentencesAndTheWordForTries) {
+    const struct {
+        int solves;
+        const char* tries;
+    } cases[] = {{0, "Il y a eu 0 essai de "},
+                 {1, "Il y a eu 1 essai de "},
+                 {2, "Il y a eu 2 essais de "},
+                 {40000, "Il y a eu 40000 essais de "},
+                 {-2, "Il y a eu-2 essai de "}};
+    for (const auto& [solves, tries] : cases) {
+        StartWith({.LessonConsultations = TaggedNumber::Integer(-1),
+                   .PythagoreConsultations = TaggedNumber::Integer(3),
+                   .PythagoreSolves = TaggedNumber::Long(solves)});
+        pupil.Click(pupil.screens.depart.heure);
+        EXPECT_EQ(screen.pour_pythagore.caption(),
+                  "--->  La Table de Pythagore a été consultée 3 fois.\r" + std::string(tries) +
+                      "résolution de multiplication grâce à la Table de Pythagore.");
+        EXPECT_EQ(screen.pour_lecons.caption(),
+                  "--->  La page des rappels sur la multiplication a été consultée-1 fois.");
+    }
+}
+
+TEST_F(BilanTest, OpenedFromThePictureWithASoundAndFilledEachTime) {
+    pupil.Click(pupil.screens.depart.bilan_utilisation);
+    EXPECT_EQ(pupil.Heard(), Names{});
+    EXPECT_EQ(screen.pour_pythagore.caption().substr(0, 54),
+              "--->  La Table de Pythagore a été consultée 0 fois.");
+    pupil.Click(screen.retour);
+    EXPECT_TRUE(pupil.Sees(pupil.screens.depart.form));
+    EXPECT_EQ(pupil.Heard(), Names{"3"});
+    pupil.Click(pupil.screens.depart.pytha);
+    pupil.Click(pupil.screens.pythagore.retour);
+    pupil.Heard();
+    // The date and the time lie over the middle of the picture.
+    const Rect& picture = pupil.screens.depart.Image_bilan.box();
+    pupil.program.stage().Press({picture.left, picture.top});
+    pupil.program.stage().Release({picture.left, picture.top});
+    EXPECT_EQ(pupil.Heard(), Names{"5"});
+    EXPECT_TRUE(pupil.Sees(screen.form));
+    EXPECT_EQ(screen.pour_pythagore.caption().substr(0, 54),
+              "--->  La Table de Pythagore a été consultée 1 fois.");
+}
+
+}  // namespace
