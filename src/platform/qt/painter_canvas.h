@@ -1,0 +1,29 @@
+#pragma once
+
+#include "forms/drawing.h"
+#include "platform/qt/page_fonts.h"
+#include "platform/qt/page_view.h"
+
+class QPainter;
+
+// Paints a page on any surface whose painter works in device pixels. Edges are sharp at every scale: boxes
+// and base lines lie on whole device pixels.
+class PainterCanvas final : public Canvas {
+  public:
+    PainterCanvas(QPainter& painter, const PageView& view, PageFonts& fonts)
+        : painter_(painter), view_(view), fonts_(fonts) {}
+
+    void DrawPicture(const Picture& picture, Point top_left) override;
+    void FillBox(const Rect& box, Color color, int radius) override;
+    void FrameBox(const Rect& box, Color color, int radius) override;
+    void FillPolygon(std::span<const Point> corners, Color color) override;
+    void DrawLine(Point from, Point to, int width, Color color) override;
+    void DrawTextLine(Point top_left, std::string_view line, const Font& font, Color color) override;
+
+  private:
+    void DrawRoundedBox(const QRectF& box, double radius);
+
+    QPainter& painter_;
+    PageView view_;
+    PageFonts& fonts_;
+};

@@ -1,0 +1,32 @@
+#include "platform/qt/qt_picture.h"
+
+#include <QImageReader>
+
+namespace {
+
+// The two formats that are painted fastest.
+QImage::Format FastFormat(const QImage& image) {
+    return image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
+}
+
+}  // namespace
+
+QtPicture::QtPicture(QImage image) : image_(std::move(image)) {
+    image_.convertTo(FastFormat(image_));
+}
+
+const QImage& QtPicture::AtSize(QSize size) const {
+    if (size == image_.size()) return image_;
+    if (size != scaled_.size()) {
+        scaled_ = image_.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        scaled_.convertTo(FastFormat(image_));
+    }
+    return scaled_;
+}
+
+std::shared_ptr<const QtPicture> ReadPicture(QIODevice& device) {
+    QImageReader reader(&device);
+    reader.setDecideFormatFromContent(true);
+    QImage image = reader.read();
+    return image.isNull() ? nullptr : std::make_shared<const QtPicture>(std::move(image));
+}
