@@ -105,10 +105,10 @@ def report():
 def prompter():
     """The fox holds the sign on which the prompt line stands."""
     return "".join([
-        fox.sitting(355, 174, .92, tail_side="", shadow=False),
+        fox.sitting(355, 163, .92, tail_side="", shadow=False),
         rect(243.5, 136.5, 224, 44, 11, fill=INK, opacity=".10"),
-        rect(242, 134, 224, 44, 11, **outlined(PROMPT_GROUND)),
-        ellipse(311, 135, 8.5, 6.5, **outlined(fox.PAW)), ellipse(399, 135, 8.5, 6.5, **outlined(fox.PAW)),
+        rect(242, 123, 228, 55, 11, **outlined(PROMPT_GROUND)),
+        ellipse(311, 124, 8.5, 6.5, **outlined(fox.PAW)), ellipse(399, 124, 8.5, 6.5, **outlined(fox.PAW)),
     ])
 
 

@@ -23,7 +23,9 @@ void Label::FollowText() {
 }
 
 Rect Label::TextBox() const {
-    return {box().left - style_.overhang, box().top, box().width + 2 * style_.overhang, box().height};
+    const Overhang& over = style_.overhang;
+    return {box().left - over.left, box().top - over.top, box().width + over.left + over.right,
+            box().height + over.top + over.bottom};
 }
 
 TextLayout Label::Layout() const {

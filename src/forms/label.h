@@ -11,6 +11,14 @@ enum class Align { kLeft, kCenter, kRight };
 // Whether a label's width follows its text, and which of its edges then stays where it is.
 enum class AutoSize { kNone, kKeepLeft, kKeepRight };
 
+// How far a text alone may pass its label's box on each side.
+struct Overhang {
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
+};
+
 struct LabelStyle {
     Font font{};
     Color color{};
@@ -20,8 +28,8 @@ struct LabelStyle {
     std::optional<Color> fill{};  // transparent without
     std::optional<Color> frame{};
     int radius = 0;
-    int outset = 0;    // how far fill, frame and pointer zone pass the text's box on every side
-    int overhang = 0;  // how far the text alone may pass its box on the left and on the right
+    int outset = 0;  // how far fill, frame and pointer zone pass the text's box on every side
+    Overhang overhang{};
     AutoSize auto_size = AutoSize::kNone;
 };
 

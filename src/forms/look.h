@@ -5,7 +5,7 @@
 // What all screens share of the program's looks.
 
 inline constexpr Color kBlack{0, 0, 0};
-inline constexpr Color kInk{38, 50, 82};
+inline constexpr Color kInk{46, 53, 80};
 inline constexpr Color kRed{255, 0, 0};
 inline constexpr Color kBlue{0, 0, 255};
 inline constexpr Color kPurple{192, 0, 192};

@@ -7,6 +7,20 @@
 
 namespace {
 
+// A blank before such a mark is no place for a break.
+bool IsMark(std::string_view word) {
+    return word == "?" || word == "!" || word == ":";
+}
+
+// The end of the first word of a text, with the marks that belong to it.
+std::size_t WordEnd(std::string_view text) {
+    auto end = std::min(text.find(' ', std::min(text.find_first_not_of(' '), text.size())), text.size());
+    while (end < text.size() && IsMark(text.substr(end + 1, text.find(' ', end + 1) - end - 1))) {
+        end = std::min(text.find(' ', end + 1), text.size());
+    }
+    return end;
+}
+
 constexpr int kSmallestHeight = 4.0_pt;
 constexpr int kShrinkStep = 0.25_pt;
 
@@ -19,7 +33,7 @@ class Wrapper {
         std::string line;
         while (!text.empty()) {
             const auto word_start = std::min(text.find_first_not_of(' '), text.size());
-            const auto word_end = std::min(text.find(' ', word_start), text.size());
+            const auto word_end = WordEnd(text);
             const bool first = line.empty();
             if (!first && WidthOf(line + std::string(text.substr(0, word_end))) > width_) {
                 AddLine(std::move(line));

@@ -28,10 +28,11 @@ LabelStyle Caption(Color color) {
     return {.font = {8.25_pt, true}, .color = color, .align = Align::kCenter, .middle = true};
 }
 
-// The prompt line's box holds its first text; the longer ones reach out to the numbers on either side.
+// The prompt line's box holds its first text; longer ones, in two lines, fill the sign around it.
 LabelStyle Prompt() {
     LabelStyle style = Caption(kRed);
-    style.overhang = 46_px;
+    style.font.height = 13.0_pt;
+    style.overhang = {46_px, 27_px, 42_px, 2_px};
     return style;
 }
 

@@ -57,6 +57,12 @@ TEST_F(LabelTest, WrapsAtBlanksAndBreaksAtCarriageReturns) {
     EXPECT_EQ(exact, (std::vector<PaintedLine>{{{0, 0}, "un deux", 100}}));
 }
 
+TEST_F(LabelTest, MarksStayWithTheWordBeforeThem) {
+    const auto lines = Painted({0, 0, 500, 600}, "multiple 7 ? non !", {.font = {100}});
+    EXPECT_EQ(lines, (std::vector<PaintedLine>{{{0, 0}, "multiple", 100}, {{0, 120}, "7 ? non !", 100}}));
+    EXPECT_EQ(Painted({0, 0, 450, 600}, "un deux ? !", {.font = {100}})[1].text, "deux ? !");
+}
+
 TEST_F(LabelTest, AlignsInItsBox) {
     const Rect box{1000, 1000, 1000, 500};
     EXPECT_EQ(Painted(box, "ab", {.font = {100}, .align = Align::kCenter, .middle = true})[0].at,
@@ -74,13 +80,13 @@ TEST_F(LabelTest, TextThatDoesNotFitIsDrawnSmaller) {
 }
 
 TEST_F(LabelTest, OverhangLeavesTheBoxButNotItsReach) {
-    const LabelStyle style{.font = {100}, .align = Align::kCenter, .overhang = 200};
+    const LabelStyle style{.font = {100}, .align = Align::kCenter, .overhang = {200, 60, 200, 0}};
     Label label(form, {1000, 0, 400, 120}, "ABCDEFGHIJKLMNOP", style);
     PlaceCanvas canvas;
     label.Paint(canvas);
-    EXPECT_EQ(canvas.lines, (std::vector<PaintedLine>{{{800, 0}, "ABCDEFGHIJKLMNOP", 100}}));
+    EXPECT_EQ(canvas.lines, (std::vector<PaintedLine>{{{800, -60}, "ABCDEFGHIJKLMNOP", 100}}));
     EXPECT_EQ(label.Reach(), (Rect{1000, 0, 400, 120}));
-    EXPECT_EQ(label.Painted(), (Rect{800, 0, 800, 120}));
+    EXPECT_EQ(label.Painted(), (Rect{800, -60, 800, 180}));
 }
 
 TEST_F(LabelTest, AutoSizeFollowsTheTextAndKeepsAnEdge) {
