@@ -1,0 +1,194 @@
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <fstream>
+#include <random>
+#include <set>
+#include <sstream>
+
+#include "forms/up_down.h"
+#include "platform/qt/painter_canvas.h"
+#include "platform/qt/qt_platform.h"
+#include "shell/program.h"
+
+namespace {
+
+// The relative luminance and the contrast of the Web Content Accessibility Guidelines.
+double Luminance(QRgb color) {
+    static const std::array<double, 256> kLinear = [] {
+        std::array<double, 256> table{};
+        for (std::size_t i = 0; i < table.size(); ++i) {
+            const double c = static_cast<double>(i) / 255.0;
+            table[i] = c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+        }
+        return table;
+    }();
+    const auto linear = [](int channel) { return kLinear[static_cast<std::size_t>(channel)]; };
+    return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) + 0.0722 * linear(qBlue(color));
+}
+
+double Contrast(double a, double b) {
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+// Paints on an image and, before each line of text, compares its color with what lies under it already: the
+// worst tenth of the pixels decides.
+class LegibilityCanvas final : public Canvas {
+  public:
+    LegibilityCanvas(QImage& image, QPainter& painter, PageFonts& fonts, std::set<std::string>& faults)
+        : image_(image),
+          fonts_(fonts),
+          faults_(faults),
+          canvas_(painter, PageView::Fitting(image.size()), fonts) {}
+
+    void DrawPicture(const Picture& picture, Point at) override { canvas_.DrawPicture(picture, at); }
+    void FillBox(const Rect& box, Color color, int radius) override { canvas_.FillBox(box, color, radius); }
+    void FrameBox(const Rect& box, Color color, int radius) override { canvas_.FrameBox(box, color, radius); }
+    void FillPolygon(std::span<const Point> corners, Color color) override {
+        canvas_.FillPolygon(corners, color);
+    }
+    void DrawLine(Point from, Point to, int width, Color color) override {
+        canvas_.DrawLine(from, to, width, color);
+    }
+
+    void DrawTextLine(Point at, std::string_view line, const Font& font, Color color) override {
+        if (line.find_first_not_of(' ') != std::string_view::npos) Check(at, std::string(line), font, color);
+        canvas_.DrawTextLine(at, line, font, color);
+    }
+
+  private:
+    void Check(Point at, const std::string& line, const Font& font, Color color) {
+        const bool large = font.bold && font.height >= 13.0_pt;
+        const double contrast = WorstTenth(at, fonts_.Measure(line, font), color);
+        if (contrast >= (large ? 3.0 : 4.5) && font.height >= 6.5_pt) return;
+        std::ostringstream fault;
+        fault << "« " << line << " » at " << at.x / kTwipsPerPixel << "," << at.y / kTwipsPerPixel
+              << ": contrast " << contrast << ", " << font.height / 20.0 << " points";
+        faults_.insert(fault.str());
+    }
+
+    double WorstTenth(Point at, Size size, Color color) const {
+        const double ink = Luminance(qRgb(color.red, color.green, color.blue));
+        const QRect cell(at.x / kTwipsPerPixel, at.y / kTwipsPerPixel, size.width / kTwipsPerPixel,
+                         size.height / kTwipsPerPixel);
+        if (!image_.rect().contains(cell)) return 0;
+        std::vector<double> contrasts;
+        for (int y = cell.top(); y <= cell.bottom(); ++y) {
+            for (int x = cell.left(); x <= cell.right(); ++x) {
+                contrasts.push_back(Contrast(ink, Luminance(image_.pixel(x, y))));
+            }
+        }
+        const auto tenth = contrasts.begin() + static_cast<std::ptrdiff_t>(contrasts.size() / 10);
+        std::nth_element(contrasts.begin(), tenth, contrasts.end());
+        return *tenth;
+    }
+
+    QImage& image_;
+    PageFonts& fonts_;
+    std::set<std::string>& faults_;
+    PainterCanvas canvas_;
+};
+
+// Always the same long sequence.
+class FixedRandom final : public Random {
+  public:
+    void Randomize() override {}
+    int Draw(int bound) override { return std::uniform_int_distribution<int>(0, bound - 1)(engine_); }
+
+  private:
+    std::mt19937 engine_;
+};
+
+// A copy of the data folder whose counters all have five digits.
+std::filesystem::path FolderWithLargeCounters() {
+    const auto folder = std::filesystem::temp_directory_path() / "onze tables lisibilité";
+    std::filesystem::remove_all(folder);
+    std::filesystem::create_directories(folder);
+    std::filesystem::copy(DATAS_DIR, folder / "datas");
+    UsageRecord record;
+    auto& counters = record.counters;
+    for (auto* table : {&counters.TableConsultations, &counters.TableExercises, &counters.TableRight,
+                        &counters.TableWrong}) {
+        table->fill(20888);
+    }
+    counters.PuzzleCount = counters.PuzzleRight = counters.PuzzleWrong = 20888;
+    counters.LessonConsultations = counters.PythagoreSolves = TaggedNumber::Integer(20888);
+    std::ofstream stream(folder / "datas" / "18", std::ios::binary);
+    for (const std::byte byte : ToBytes(record)) stream.put(static_cast<char>(byte));
+    return folder;
+}
+
+// A child that clicks on whatever reacts, everywhere but on the way out.
+class Monkey {
+  public:
+    Monkey() : platform_(FolderWithLargeCounters()), program_(platform_, random_) { program_.Load(); }
+
+    void ClickOnceAndLook() {
+        const Form& page = *program_.stage().front();
+        std::vector<const Control*> choices;
+        for (const Control* control : page.controls()) {
+            if (control != &program_.screens().depart.fin && control->Reacts()) choices.push_back(control);
+        }
+        const Rect box =
+            choices[static_cast<std::size_t>(random_.Draw(static_cast<int>(choices.size())))]->box();
+        const Point point{box.left + random_.Draw(box.width), box.top + random_.Draw(box.height)};
+        program_.stage().Move(point);
+        Look();
+        if (page.ControlAt(point) == &program_.screens().depart.fin) return;
+        program_.stage().Press(point);
+        program_.stage().Release(point);
+        program_.stage().RunDue();
+        Look();
+    }
+
+    void Look() {
+        QImage image(640, 480, QImage::Format_RGB32);
+        QPainter painter(&image);
+        LegibilityCanvas canvas(image, painter, platform_.fonts(), faults_);
+        program_.stage().Paint(canvas, {0, 0, kPageWidth, kPageHeight});
+        for (const Control* control : program_.stage().front()->controls()) {
+            if (control->visible()) seen_.insert(control);
+        }
+    }
+
+    bool HasSeen(const Form& form) const {
+        return std::all_of(form.controls().begin(), form.controls().end(),
+                           [this](const Control* control) { return seen_.contains(control); });
+    }
+
+    const std::set<std::string>& faults() const { return faults_; }
+    Screens& screens() { return program_.screens(); }
+
+  private:
+    QtPlatform platform_;
+    FixedRandom random_;
+    Program program_;
+    std::set<const Control*> seen_;
+    std::set<std::string> faults_;
+};
+
+TEST(Legibility, EveryTextStandsOutFromWhatLiesUnderIt) {
+    Monkey monkey;
+    for (int i = 0; i < 2000; ++i) monkey.ClickOnceAndLook();
+    for (const std::string& fault : monkey.faults()) ADD_FAILURE() << fault;
+    for (const Form* form :
+         {&monkey.screens().depart.form, &monkey.screens().apprendre.form, &monkey.screens().leçon.form,
+          &monkey.screens().pythagore.form, &monkey.screens().exercices.form, &monkey.screens().bilan.form}) {
+        EXPECT_TRUE(monkey.HasSeen(*form)) << "some control was never seen";
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("SDL_AUDIODRIVER", "dummy");
+    QGuiApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
