@@ -57,7 +57,7 @@ PicturePtr QtPlatform::LoadPicture(std::span<const std::byte> bytes) {
 PicturePtr QtPlatform::ClipPicture(const PicturePtr& picture, int x, int y, int width, int height) {
     const QImage& whole = static_cast<const QtPicture&>(*picture).image();
     const QRect part(x, y, width, height);
-    if (!whole.rect().contains(part)) throw RunTimeError("Découpe hors de l'image.");
+    if (part.isEmpty() || !whole.rect().contains(part)) throw RunTimeError("Découpe hors de l'image.");
     return std::make_shared<QtPicture>(whole.copy(part));
 }
 

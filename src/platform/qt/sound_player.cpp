@@ -1,15 +1,19 @@
 #include "platform/qt/sound_player.h"
 
 #include <SDL.h>
+#include <alsa/asoundlib.h>
 
 #include <chrono>
 #include <utility>
 
 namespace {
 
-// How long an open device is kept without a sound. A device costs wake-ups even when it is silent, and
-// opening it anew takes longer than the pause between two clicks.
+using Clock = std::chrono::steady_clock;
+
+// An open device wakes up for every buffer, even a silent one: without a sound for this time it is closed.
 constexpr std::chrono::seconds kIdleTime{3};
+// Looking for a device in vain costs more than a child's next click should.
+constexpr std::chrono::seconds kRetryTime{10};
 constexpr Uint16 kBufferSamples = 1024;  // 23 ms at 44100 Hz
 
 // A wave file's samples.
@@ -27,10 +31,15 @@ class Wave {
     Uint32 length = 0;
 };
 
-// The sound device, open only while there is something to hear.
+void SayNothing(const char*, int, const char*, int, const char*, ...) {}
+
+// The sound device, open only while there is something to hear. SDL finds PipeWire, PulseAudio and ALSA by
+// itself, and lets a thread of ours wait for them; QSoundEffect waits in the event loop, which a sound server
+// that accepts and does not answer then stops for good.
 class Device {
   public:
     Device() {
+        snd_lib_error_set_handler(SayNothing);
         SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
         SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Onze Tables");
     }
@@ -52,6 +61,7 @@ class Device {
 
     SDL_AudioDeviceID id_ = 0;
     SDL_AudioSpec spec_{};
+    Clock::time_point retry_ = Clock::time_point::min();  // no device is looked for before
 };
 
 void Device::Play(const std::filesystem::path& file) {
@@ -73,15 +83,22 @@ bool Device::Takes(const SDL_AudioSpec& spec) const {
 }
 
 void Device::Open(const SDL_AudioSpec& spec) {
+    if (Clock::now() < retry_) return;
+    retry_ = Clock::now() + kRetryTime;
     if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) return;
     spec_ = spec;
     spec_.samples = kBufferSamples;
     id_ = SDL_OpenAudioDevice(nullptr, 0, &spec_, nullptr, 0);
-    if (!IsOpen()) SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    if (IsOpen()) {
+        retry_ = Clock::time_point::min();
+    } else {
+        SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    }
 }
 
 void Device::Close() {
     if (!IsOpen()) return;
+    Silence();  // closing waits for what is still to be heard
     SDL_CloseAudioDevice(id_);
     SDL_QuitSubSystem(SDL_INIT_AUDIO);
     id_ = 0;
