@@ -14,8 +14,8 @@ inline constexpr Font kExerciseFont{8.25_pt, true};
 inline const LabelStyle kExerciseLine{.font = kExerciseFont, .color = kInk, .middle = true};
 inline const LabelStyle kExerciseMessage{.font = kExerciseFont, .color = kInk};
 
-// A place to fill in. Its frame passes the box as far as the neighbours leave room.
-inline LabelStyle Answer(int outset) {
+// A place to fill in. Its frame passes the box as far as the neighbours leave room; the text stays inside.
+inline LabelStyle Answer(Outset outset) {
     return {.font = kExerciseFont,
             .color = {0, 70, 170},
             .align = Align::kCenter,
@@ -24,10 +24,10 @@ inline LabelStyle Answer(int outset) {
             .frame = Color{110, 140, 195},
             .radius = 3_px,
             .outset = outset,
-            .overhang = outset};
+            .overhang = outset.x - 1_px};
 }
 
-// One pixel around each button: "Continuer" of the factored sum stands just below the corner of an answer.
+// "Continuer" of the factored sum stands right below the corner of an answer, hence so little around a button.
 inline const LabelStyle kExerciseButton = [] {
     LabelStyle style = kButton;
     style.font.height = 9.75_pt;

@@ -45,7 +45,8 @@ struct Rect {
         return p.x >= left && p.x < right() && p.y >= top && p.y < bottom();
     }
     // The same box with every side moved outwards.
-    constexpr Rect Grown(int by) const { return {left - by, top - by, width + 2 * by, height + 2 * by}; }
+    constexpr Rect Grown(int by) const { return Grown(by, by); }
+    constexpr Rect Grown(int x, int y) const { return {left - x, top - y, width + 2 * x, height + 2 * y}; }
     // The smallest box around both; an empty box adds nothing.
     constexpr Rect United(const Rect& other) const {
         if (empty()) return other;

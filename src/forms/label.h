@@ -11,6 +11,16 @@ enum class Align { kLeft, kCenter, kRight };
 // Whether a label's width follows its text, and which of its edges then stays where it is.
 enum class AutoSize { kNone, kKeepLeft, kKeepRight };
 
+// How far a label's fill, frame and pointer zone pass its box on either side, and at its top and bottom.
+struct Outset {
+    constexpr Outset() = default;
+    constexpr Outset(int all) : x(all), y(all) {}
+    constexpr Outset(int sides, int ends) : x(sides), y(ends) {}
+
+    int x = 0;
+    int y = 0;
+};
+
 struct LabelStyle {
     Font font{};
     Color color{};
@@ -20,12 +30,13 @@ struct LabelStyle {
     std::optional<Color> fill{};  // transparent without
     std::optional<Color> frame{};
     int radius = 0;
-    int outset = 0;    // how far fill, frame and pointer zone pass the text's box on every side
+    Outset outset{};
     int overhang = 0;  // how far the text alone may pass its box on the left and on the right
     AutoSize auto_size = AutoSize::kNone;
 };
 
-// A text in a box, wrapped; where it would not fit it is drawn smaller, never clipped.
+// A text in a box, wrapped; where it would not fit it is drawn smaller, never clipped. A centred text stands
+// by what is seen of it: blanks at its ends do not count.
 class Label final : public Control {
   public:
     Label(Form& form, const Rect& box, std::string caption, const LabelStyle& style);
@@ -34,7 +45,7 @@ class Label final : public Control {
     const LabelStyle& style() const { return style_; }
     void SetCaption(std::string caption);
 
-    Rect Reach() const override { return box().Grown(style_.outset); }
+    Rect Reach() const override { return box().Grown(style_.outset.x, style_.outset.y); }
     Rect Painted() const override { return Reach().United(TextBox()); }
     void Paint(Canvas& canvas) const override;
     // The text as it is painted.
