@@ -40,7 +40,7 @@ inline constexpr int kArrowLead = 8_px;  // how far it passes the answer to the 
 
 inline Rect ArrowOver(const Label& answer) {
     const Rect& box = answer.box();
-    return {box.left - kArrowLead, box.top - 30_px, box.width + 2 * kArrowLead, 26_px};
+    return {box.left - kArrowLead, answer.Reach().top - 27_px, box.width + 2 * kArrowLead, 26_px};
 }
 
 inline const std::string kEnterAnswerOnTwoLines =

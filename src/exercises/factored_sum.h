@@ -31,7 +31,7 @@ class FactoredSumPanel : private ExercisePanel {
     struct Ui {
         Form& form;
         //                  left  top   width height
-        Label enonce5    { form, { 5190, 5520, 1560, 195 }, "dgdg",        Aligned(kExerciseLine, Align::kRight) };
+        Label enonce5    { form, { 5190, 5520, 1545, 195 }, "dgdg",        Aligned(kExerciseLine, Align::kRight) };
         Label chiffre7   { form, { 6810, 5520,  240, 195 }, kUnanswered,   Answer({3_px, 0}) };
         Label enonce6    { form, { 7110, 5520,  210, 195 }, " =",          kExerciseLine };
         Label chiffre8   { form, { 7380, 5520,  240, 195 }, kUnanswered,   Answer({3_px, 0}) };
