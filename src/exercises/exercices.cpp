@@ -4,6 +4,13 @@ namespace {
 
 constexpr Color kRule{120, 150, 205};
 
+// The button reaches nearly to the edge of the page.
+LabelStyle ReturnButton() {
+    LabelStyle style = kButton;
+    style.outset = 1_px;
+    return style;
+}
+
 }  // namespace
 
 // The rules: below the two areas at the top, below the band of the third exercise, below that of the first;
@@ -22,7 +29,7 @@ Exercices::Exercices(Stage& stage, SharedState& shared, Form& depart)
       missing_factor(form, shared),
       factored_sum(form, shared),
       note_factor(form, shared),
-      fin(form, {8280, 6870, 1155, 285}, "RETOUR", kButton),
+      fin(form, {8280, 6870, 1155, 285}, "RETOUR", ReturnButton()),
       random_(shared.random) {
     form.on_activate = [this] { Form_Activate(); };
     fin.on_click = [this, &shared, &depart] { ReturnToStart(shared.sounds, depart, form); };

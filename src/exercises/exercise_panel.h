@@ -14,8 +14,8 @@ inline constexpr Font kExerciseFont{8.25_pt, true};
 inline const LabelStyle kExerciseLine{.font = kExerciseFont, .color = kInk, .middle = true};
 inline const LabelStyle kExerciseMessage{.font = kExerciseFont, .color = kInk};
 
-// A place to fill in. Its frame passes the box as far as the neighbours leave room.
-inline LabelStyle Answer(int outset) {
+// A place to fill in. Its frame passes the box as far as the neighbours leave room; the text stays inside.
+inline LabelStyle Answer(Margins outset) {
     return {.font = kExerciseFont,
             .color = {0, 70, 170},
             .align = Align::kCenter,
@@ -24,10 +24,11 @@ inline LabelStyle Answer(int outset) {
             .frame = Color{110, 140, 195},
             .radius = 3_px,
             .outset = outset,
-            .overhang = outset};
+            .overhang = {outset.left - 1_px, 0}};
 }
 
-// One pixel around each button: "Continuer" of the factored sum stands just below the corner of an answer.
+// "Continuer" of the factored sum stands right below the corner of an answer, hence so little around a
+// button.
 inline const LabelStyle kExerciseButton = [] {
     LabelStyle style = kButton;
     style.font.height = 9.75_pt;
@@ -40,7 +41,7 @@ inline constexpr int kArrowLead = 8_px;  // how far it passes the answer to the 
 
 inline Rect ArrowOver(const Label& answer) {
     const Rect& box = answer.box();
-    return {box.left - kArrowLead, box.top - 30_px, box.width + 2 * kArrowLead, 26_px};
+    return {box.left - kArrowLead, answer.Reach().top - 27_px, box.width + 2 * kArrowLead, 26_px};
 }
 
 inline const std::string kEnterAnswerOnTwoLines =

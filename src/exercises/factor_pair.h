@@ -31,10 +31,10 @@ class FactorPairPanel : private ExercisePanel {
     struct Ui {
         Form& form;
         //                   left  top   width height
-        Label enonce3     { form, {  240, 2850,    0, 195 }, "dgdg",      AutoSized(kExerciseLine, AutoSize::kKeepLeft) };
-        Label chiffre4    { form, { 5595, 2850,  240, 195 }, kUnanswered, Answer(3_px) };
-        Label chiffre5    { form, { 1500, 2850,  240, 195 }, kUnanswered, Answer(3_px) };
-        Label texte2      { form, {  240, 3135, 5220, 600 }, "",          kExerciseMessage };
+        Label enonce3     { form, {  300, 2865,    0, 195 }, "dgdg",      AutoSized(kExerciseLine, AutoSize::kKeepLeft) };
+        Label chiffre4    { form, { 5595, 2865,  240, 195 }, kUnanswered, Answer({2_px, 3_px}) };
+        Label chiffre5    { form, { 1500, 2865,  240, 195 }, kUnanswered, Answer({2_px, 3_px}) };
+        Label texte2      { form, {  300, 3135, 5220, 600 }, "",          kExerciseMessage };
         Label encor_trois { form, { 5595, 3450,  990, 240 }, "Continuer", kExerciseButton };
         UpDown flech3     { form, ArrowOver(chiffre4),       { 3, 12 },   chiffre4 };
         UpDown flech4     { form, ArrowOver(chiffre5),       { 0, 100 },  chiffre5 };

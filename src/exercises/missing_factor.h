@@ -25,9 +25,9 @@ class MissingFactorPanel : private ExercisePanel {
     struct Ui {
         Form& form;
         //                    left  top   width height
-        Label chiffre6     { form, { 1410,  750,  240, 195 }, kUnanswered,  Answer(3_px) };
-        Label enonce4      { form, { 1755,  750, 1785, 195 }, "dgdg",       kExerciseLine };
-        Label texte3       { form, {  240, 1140, 4350, 780 }, kEnterAnswer, kExerciseMessage };
+        Label chiffre6     { form, { 1410,  870,  240, 195 }, kUnanswered,  Answer({4_px, 3_px}) };
+        Label enonce4      { form, { 1755,  870, 1785, 195 }, "dgdg",       kExerciseLine };
+        Label texte3       { form, {  300, 1260, 4290, 690 }, kEnterAnswer, kExerciseMessage };
         Label encor_quatre { form, { 2760, 2025,  990, 240 }, "Continuer",  kExerciseButton };
         UpDown flech5      { form, ArrowOver(chiffre6),       { 0, 12 },    chiffre6 };
     } ui;

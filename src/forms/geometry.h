@@ -32,6 +32,19 @@ struct Size {
     friend bool operator==(const Size&, const Size&) = default;
 };
 
+// How far something passes a box on each side.
+struct Margins {
+    constexpr Margins() = default;
+    constexpr Margins(int all) : Margins(all, all) {}
+    constexpr Margins(int sides, int ends) : Margins(sides, ends, sides, ends) {}
+    constexpr Margins(int l, int t, int r, int b) : left(l), top(t), right(r), bottom(b) {}
+
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
+};
+
 struct Rect {
     int left = 0;
     int top = 0;
@@ -44,8 +57,10 @@ struct Rect {
     constexpr bool Contains(Point p) const {
         return p.x >= left && p.x < right() && p.y >= top && p.y < bottom();
     }
-    // The same box with every side moved outwards.
-    constexpr Rect Grown(int by) const { return {left - by, top - by, width + 2 * by, height + 2 * by}; }
+    // The same box with its sides moved outwards.
+    constexpr Rect Grown(const Margins& by) const {
+        return {left - by.left, top - by.top, width + by.left + by.right, height + by.top + by.bottom};
+    }
     // The smallest box around both; an empty box adds nothing.
     constexpr Rect United(const Rect& other) const {
         if (empty()) return other;

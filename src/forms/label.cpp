@@ -1,6 +1,17 @@
 #include "forms/label.h"
 
+#include <algorithm>
+
 #include "forms/platform.h"
+
+namespace {
+
+std::string_view Trimmed(std::string_view text) {
+    const auto first = std::min(text.find_first_not_of(' '), text.size());
+    return text.substr(first, text.find_last_not_of(' ') + 1 - first);
+}
+
+}  // namespace
 
 Label::Label(Form& form, const Rect& box, std::string caption, const LabelStyle& style)
     : Control(form, box), caption_(std::move(caption)), style_(style) {
@@ -23,15 +34,14 @@ void Label::FollowText() {
 }
 
 Rect Label::TextBox() const {
-    const Overhang& over = style_.overhang;
-    return {box().left - over.left, box().top - over.top, box().width + over.left + over.right,
-            box().height + over.top + over.bottom};
+    return box().Grown(style_.overhang);
 }
 
 TextLayout Label::Layout() const {
     const Size size{TextBox().width, TextBox().height};
     if (!layout_ || layout_box_ != size) {
-        layout_ = LayOutInBox(platform(), caption_, style_.font, size);
+        const std::string_view text = style_.align == Align::kCenter ? Trimmed(caption_) : caption_;
+        layout_ = LayOutInBox(platform(), text, style_.font, size);
         layout_box_ = size;
     }
     return *layout_;

@@ -11,14 +11,6 @@ enum class Align { kLeft, kCenter, kRight };
 // Whether a label's width follows its text, and which of its edges then stays where it is.
 enum class AutoSize { kNone, kKeepLeft, kKeepRight };
 
-// How far a text alone may pass its label's box on each side.
-struct Overhang {
-    int left = 0;
-    int top = 0;
-    int right = 0;
-    int bottom = 0;
-};
-
 struct LabelStyle {
     Font font{};
     Color color{};
@@ -28,12 +20,13 @@ struct LabelStyle {
     std::optional<Color> fill{};  // transparent without
     std::optional<Color> frame{};
     int radius = 0;
-    int outset = 0;  // how far fill, frame and pointer zone pass the text's box on every side
-    Overhang overhang{};
+    Margins outset{};    // how far fill, frame and pointer zone pass the box
+    Margins overhang{};  // how far the text alone may pass the box
     AutoSize auto_size = AutoSize::kNone;
 };
 
-// A text in a box, wrapped; where it would not fit it is drawn smaller, never clipped.
+// A text in a box, wrapped; where it would not fit it is drawn smaller, never clipped. A centred text stands
+// by what is seen of it: blanks at its ends do not count.
 class Label final : public Control {
   public:
     Label(Form& form, const Rect& box, std::string caption, const LabelStyle& style);
