@@ -10,7 +10,7 @@ class Desk:
     def __enter__(self):
         read, write = os.pipe()
         self._server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-nolisten", "tcp", "-noreset"],
             pass_fds=[write],
             stderr=subprocess.DEVNULL,
         )

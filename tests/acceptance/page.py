@@ -2,6 +2,7 @@
 
 import subprocess
 import time
+from pathlib import Path
 
 WIDTH, HEIGHT = 640, 480
 
@@ -15,6 +16,7 @@ BACK = (590, 467)
 
 FACTORING_MORE = (485, 57)
 FACTORING_ANSWER = (454, 65)
+MULTIPLE_NO = (470, 220)
 PRODUCT_MORE = (476, 26)
 PRODUCT_ANSWER = (476, 56)
 
@@ -28,7 +30,8 @@ def row(number):
 
 
 # The screens by the names of their background pictures.
-LEARNING, REPORT_SCREEN, EXERCISES_SCREEN, LESSONS_SCREEN, START, PYTHAGORAS_SCREEN = "11", "12", "13", "14", "15", "16"
+SCREENS = "11", "12", "13", "14", "15", "16"
+LEARNING, REPORT_SCREEN, EXERCISES_SCREEN, LESSONS_SCREEN, START, PYTHAGORAS_SCREEN = SCREENS
 
 
 class Backgrounds:
@@ -37,8 +40,9 @@ class Backgrounds:
     SIZE = (160, 120)
     ALIKE = 16  # mean difference of a colour; texts and controls cover a part of every background
 
-    def __init__(self, datas):
-        self._pictures = {name: self._small(datas / name) for name in ("11", "12", "13", "14", "15", "16")}
+    def __init__(self):
+        datas = Path(__file__).parents[2] / "datas"
+        self._pictures = {name: self._small(datas / name) for name in SCREENS}
 
     def nearest(self, seen):
         """The most similar background and the mean difference from it."""
@@ -57,8 +61,8 @@ class Backgrounds:
 class Page:
     """The page as it lies on a desk: its top left corner, scaled."""
 
-    def __init__(self, desk, backgrounds, scale):
-        self._desk, self._backgrounds, self._scale = desk, backgrounds, scale
+    def __init__(self, desk, scale):
+        self._desk, self._backgrounds, self._scale = desk, Backgrounds(), scale
         self.box = (0, 0, round(WIDTH * scale), round(HEIGHT * scale))
 
     def click(self, place):

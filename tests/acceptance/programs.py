@@ -7,9 +7,9 @@ import time
 from pathlib import Path
 
 from desk import HEIGHT, WIDTH
-from page import Backgrounds, Page
+from page import Page
 
-SCRIPTS = Path(__file__).parents[2] / "scripts"
+ROOT = Path(__file__).parents[2]
 PATIENCE = 60  # seconds, for what takes one or two
 
 
@@ -17,7 +17,7 @@ def install(program, folder):
     """Copies a program and its data into a folder, with the counters as they are delivered."""
     folder.mkdir(parents=True)
     shutil.copy(program, folder)
-    shutil.copytree(Path(__file__).parents[2] / "datas", folder / "datas")
+    shutil.copytree(ROOT / "datas", folder / "datas")
     return folder / program.name
 
 
@@ -25,7 +25,7 @@ class LinuxProgram:
     SCALE = WIDTH / 640
 
     def __init__(self, desk, executable, **environment):
-        self.page = Page(desk, Backgrounds(executable.parent / "datas"), self.SCALE)
+        self.page = Page(desk, self.SCALE)
         self._desk, self._command = desk, [str(executable)]
         self._environment = desk.environment(**{"SDL_AUDIODRIVER": "dummy", **environment})
 
@@ -48,12 +48,13 @@ class LinuxProgram:
 
     def report(self):
         """The report of an error, once it is put away."""
-        text = self._process.stderr.readline()
-        while self._process.poll() is None:
-            time.sleep(0.2)
+        end = time.monotonic() + PATIENCE
+        while self._process.poll() is None and time.monotonic() < end:
             self._desk.move(WIDTH // 2, HEIGHT // 2)
             self._desk.press("Return")
-        return text
+            time.sleep(0.2)
+        self._process.kill()
+        return self._process.stderr.read()
 
     def processor_time(self):
         """Seconds of one core that the program has used."""
@@ -68,7 +69,7 @@ class WindowsProgram:
     probe = prefix = None
 
     def __init__(self, desk, executable, **environment):
-        self.page = Page(desk, Backgrounds(executable.parent / "datas"), self.SCALE)
+        self.page = Page(desk, self.SCALE)
         self._environment = desk.environment(WINEPREFIX=str(self.prefix), **environment)
         self._folder = executable.parent
         shutil.copy(self.probe, self._folder)
@@ -77,7 +78,7 @@ class WindowsProgram:
     def __enter__(self):
         desktop = f"/desktop=shell,{WIDTH}x{HEIGHT}"
         self._process = subprocess.Popen(
-            [SCRIPTS / "wine", "explorer", desktop, "probe.exe"],
+            [ROOT / "scripts" / "wine", "explorer", desktop, "probe.exe"],
             cwd=self._folder,
             env=self._environment,
             stdin=subprocess.PIPE,
