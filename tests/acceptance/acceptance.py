@@ -1,0 +1,165 @@
+"""acceptance.py PROGRAM [PROBE]: drives the real program, in a real window, with a real pointer, as a pupil does."""
+
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+from pathlib import Path
+
+import counters
+import page as at
+from desk import Desk
+from programs import LinuxProgram, WindowsProgram, install
+
+
+class Acceptance:
+    """What both programs are put to; the classes below bring the platform."""
+
+    def setUp(self):
+        self.desk = self.enterContext(Desk())
+        self.folder = Path(self.enterContext(tempfile.TemporaryDirectory()), "Tables d'été à l'école")
+        self.executable = install(self.source, self.folder)
+        self.file = self.folder / "datas" / "18"
+
+    def start(self, **environment):
+        program = self.enterContext(self.program(self.desk, self.executable, **environment))
+        program.page.wait_for(at.START)
+        return program
+
+    def quit(self, program):
+        program.page.click(at.QUIT)
+        self.assertEqual(program.wait(), 0)
+        self.check_desk_put_back(program)
+
+    def test_a_visit_is_counted(self):
+        before = self.file.read_bytes()
+        program = self.start()
+        page = program.page
+        self.check_page_alone(program)
+
+        page.go(at.TABLE_OF_7, at.LEARNING)
+        page.click(at.FACTORING_MORE)
+        page.click(at.FACTORING_ANSWER)
+        page.click(at.MULTIPLE_NO)
+        page.back()
+        page.go(at.EXERCISES, at.EXERCISES_SCREEN)
+        page.click(at.PRODUCT_MORE)
+        page.click(at.PRODUCT_ANSWER)
+        page.back()
+        page.go(at.PYTHAGORAS, at.PYTHAGORAS_SCREEN)
+        page.click(at.column(8))
+        page.click(at.row(7))
+        page.back()
+        page.go(at.LESSONS, at.LESSONS_SCREEN)
+        page.back()
+        page.go(at.REPORT, at.REPORT_SCREEN)
+        page.back()
+        self.quit(program)
+
+        changes = counters.changes(before, self.file.read_bytes())
+        consultations, exercises, *verdicts = counters.of_table(7)
+        self.assertEqual(sum(changes.pop(verdict, 0) for verdict in verdicts), 2)
+        self.assertEqual(changes.pop(exercises), 2)
+        puzzles = counters.PUZZLE_RIGHT, counters.PUZZLE_WRONG
+        self.assertEqual(sum(changes.pop(verdict, 0) for verdict in puzzles), 1)
+        once = (
+            counters.SAVED_ONCE,
+            consultations,
+            counters.PUZZLE_COUNT,
+            counters.PYTHAGORE_CONSULTATIONS,
+            counters.PYTHAGORE_SOLVES,
+            counters.LESSON_CONSULTATIONS,
+        )
+        self.assertEqual(changes, dict.fromkeys(once, 1))
+
+    def test_nothing_done_changes_nothing(self):
+        worn = counters.worn()
+        self.file.write_bytes(worn)
+        for locale in ("C", "xx_XX.UTF-8"):
+            self.quit(self.start(LC_ALL=locale))
+            self.assertEqual(self.file.read_bytes(), worn)
+
+    def test_a_file_that_lacks_stops_the_start(self):
+        for name in ("18", "16"):
+            with self.subTest(name):
+                file = self.folder / "datas" / name
+                content = file.read_bytes()
+                file.unlink()
+                with self.program(self.desk, self.executable) as program:
+                    self.assertIn(f"datas{self.separator}{name}", program.report())
+                    self.assertNotEqual(program.wait(), 0)
+                    self.check_desk_untouched(program)
+                file.write_bytes(content)
+
+    def test_an_end_by_force_saves_nothing(self):
+        before = self.file.read_bytes()
+        program = self.start()
+        program.page.go(at.TABLE_OF_7, at.LEARNING)
+        program.kill()
+        self.assertEqual(self.file.read_bytes(), before)
+        self.check_desk_left(program)
+
+
+class LinuxAcceptance(Acceptance, unittest.TestCase):
+    program = LinuxProgram
+    separator = "/"
+
+    def check_page_alone(self, program):
+        left, top, *size = program.page.box
+        self.assertEqual((left, top, *size), (0, 0, 1024, 768))
+
+    def check_desk_put_back(self, program):
+        pass
+
+    check_desk_untouched = check_desk_left = check_desk_put_back
+
+    def test_sounds_leave_the_program(self):
+        record = Path(self.folder, "sounds.raw")
+        program = self.start(SDL_AUDIODRIVER="disk", SDL_DISKAUDIOFILE=str(record))
+        self.assertFalse(record.exists())
+        program.page.go(at.LESSONS, at.LESSONS_SCREEN)
+        program.page.back()
+        self.quit(program)
+        self.assertTrue(any(record.read_bytes()))
+
+    def test_waiting_costs_next_to_nothing(self):
+        program = self.start()
+        start = program.processor_time()
+        time.sleep(4)
+        self.assertLess(program.processor_time() - start, 0.05 * 4)
+
+
+class WindowsAcceptance(Acceptance, unittest.TestCase):
+    program = WindowsProgram
+    separator = "\\"
+
+    BEFORE, DURING = "desk 1024x768 with taskbar", "desk 640x480 without taskbar"
+
+    def check_page_alone(self, program):
+        pass  # the probe's account is read at the end
+
+    def check_desk_put_back(self, program):
+        self.assertEqual((program.told[0], program.told[-1]), (self.BEFORE, self.BEFORE))
+        self.assertIn(self.DURING, program.told)
+        self.assertNotIn("desk 640x480 with taskbar", program.told)
+
+    def check_desk_untouched(self, program):
+        self.assertEqual([line for line in program.told if line.startswith("desk")], [self.BEFORE])
+
+    def check_desk_left(self, program):
+        self.assertEqual(program.told[-1], self.DURING)
+
+
+if __name__ == "__main__":
+    source = Path(sys.argv[1])
+    case = LinuxAcceptance
+    if source.suffix == ".exe":
+        case, WindowsProgram.probe = WindowsAcceptance, Path(sys.argv[2])
+    case.source = source
+    with tempfile.TemporaryDirectory(dir=source.parent) as scratch:
+        WindowsProgram.prefix = Path(scratch, "wine")
+        tests = unittest.defaultTestLoader.loadTestsFromTestCase(case)
+        done = unittest.TextTestRunner(verbosity=2).run(tests)
+    sys.exit(not done.wasSuccessful())

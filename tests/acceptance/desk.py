@@ -1,0 +1,52 @@
+"""A virtual display with a real pointer, and what can be seen on it."""
+
+import os
+import subprocess
+
+WIDTH, HEIGHT = 1024, 768
+
+
+class Desk:
+    def __enter__(self):
+        read, write = os.pipe()
+        self._server = subprocess.Popen(
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-nolisten", "tcp", "-noreset"],
+            pass_fds=[write],
+            stderr=subprocess.DEVNULL,
+        )
+        os.close(write)
+        with open(read) as numbers:
+            self.display = ":" + numbers.readline().strip()
+        return self
+
+    def __exit__(self, *_):
+        self._server.terminate()
+        self._server.wait()
+
+    def environment(self, **more):
+        shared = {k: v for k, v in os.environ.items() if k not in ("WAYLAND_DISPLAY", "QT_QPA_PLATFORM")}
+        return {**shared, "DISPLAY": self.display, **more}
+
+    def move(self, x, y):
+        self._pointer("mousemove", x, y)
+
+    def click(self, x, y):
+        self._pointer("mousemove", x, y, "sleep", 0.05, "click", 1, "sleep", 0.05)
+
+    def press(self, key):
+        self._pointer("key", key)
+
+    def look(self, box, size):
+        """The colours inside a box (left, top, width, height), brought to a size: three bytes a pixel."""
+        return self._see(box, "-resize", f"{size[0]}x{size[1]}!", "-depth", "8", "rgb:-")
+
+    def keep_picture(self, box, file):
+        self._see(box, str(file))
+
+    def _pointer(self, *words):
+        subprocess.run(["xdotool", *map(str, words)], env=self.environment(), check=True)
+
+    def _see(self, box, *rest):
+        left, top, width, height = box
+        crop = ["-window", "root", "-crop", f"{width}x{height}+{left}+{top}", "+repage"]
+        return subprocess.run(["import", *crop, *rest], env=self.environment(), check=True, capture_output=True).stdout

@@ -1,0 +1,109 @@
+"""The two programs, each started from a folder of its own on a desk."""
+
+import os
+import shutil
+import subprocess
+import time
+from pathlib import Path
+
+from desk import HEIGHT, WIDTH
+from page import Page
+
+ROOT = Path(__file__).parents[2]
+PATIENCE = 60  # seconds, for what takes one or two
+
+
+def install(program, folder):
+    """Copies a program and its data into a folder, with the counters as they are delivered."""
+    folder.mkdir(parents=True)
+    shutil.copy(program, folder)
+    shutil.copytree(ROOT / "datas", folder / "datas")
+    return folder / program.name
+
+
+class LinuxProgram:
+    SCALE = WIDTH / 640
+
+    def __init__(self, desk, executable, **environment):
+        self.page = Page(desk, self.SCALE)
+        self._desk, self._command = desk, [str(executable)]
+        self._environment = desk.environment(**{"SDL_AUDIODRIVER": "dummy", **environment})
+
+    def __enter__(self):
+        self._process = subprocess.Popen(
+            self._command, env=self._environment, stderr=subprocess.PIPE, text=True, encoding="utf-8"
+        )
+        return self
+
+    def __exit__(self, *_):
+        self._process.kill()
+        self._process.communicate()
+
+    def wait(self):
+        return self._process.wait(PATIENCE)
+
+    def kill(self):
+        self._process.kill()
+        self._process.wait()
+
+    def report(self):
+        """The report of an error, once it is put away."""
+        end = time.monotonic() + PATIENCE
+        while self._process.poll() is None and time.monotonic() < end:
+            self._desk.move(WIDTH // 2, HEIGHT // 2)
+            self._desk.press("Return")
+            time.sleep(0.2)
+        self._process.kill()
+        return self._process.stderr.read()
+
+    def processor_time(self):
+        """Seconds of one core that the program has used."""
+        fields = Path(f"/proc/{self._process.pid}/stat").read_text().rpartition(")")[2].split()
+        return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
+
+
+class WindowsProgram:
+    """Runs in a desktop with a taskbar, beside a probe that tells what becomes of both."""
+
+    SCALE = 1
+    probe = prefix = None
+
+    def __init__(self, desk, executable, **environment):
+        self.page = Page(desk, self.SCALE)
+        self._environment = desk.environment(WINEPREFIX=str(self.prefix), **environment)
+        self._folder = executable.parent
+        shutil.copy(self.probe, self._folder)
+        self.told = []
+
+    def __enter__(self):
+        desktop = f"/desktop=shell,{WIDTH}x{HEIGHT}"
+        self._process = subprocess.Popen(
+            [ROOT / "scripts" / "wine", "explorer", desktop, "probe.exe"],
+            cwd=self._folder,
+            env=self._environment,
+            stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE,
+            text=True,
+            encoding="utf-8",
+        )
+        return self
+
+    def __exit__(self, *_):
+        self._process.kill()
+        self._process.communicate()
+        subprocess.run(["wineserver", "-k"], env=self._environment)
+
+    def wait(self):
+        """The exit status; all that happened to the desktop has been told by then."""
+        output, _ = self._process.communicate(timeout=PATIENCE)
+        self.told = output.splitlines()
+        return int(self.told.pop().removeprefix("exit "))
+
+    def kill(self):
+        self._process.stdin.write("\n")
+        self._process.stdin.flush()
+        self.wait()
+
+    def report(self):
+        self.wait()
+        return "".join(line.removeprefix("report ") for line in self.told if line.startswith("report "))
