@@ -1,9 +1,13 @@
-"""A virtual display with a real pointer, and what can be seen on it."""
+"""A virtual display with a real pointer, and what can be seen on it and heard."""
 
 import os
 import subprocess
+import tempfile
+from pathlib import Path
 
 WIDTH, HEIGHT = 1024, 768
+
+SOUND_DEVICE = 'pcm.!default {{ type file slave.pcm {{ type null }} file "{}" format "raw" }}'
 
 
 class Desk:
@@ -16,16 +20,27 @@ class Desk:
         )
         os.close(write)
         with open(read) as numbers:
-            self.display = ":" + numbers.readline().strip()
+            display = ":" + numbers.readline().strip()
+
+        self._folder = tempfile.TemporaryDirectory()
+        sound_device = Path(self._folder.name, "asound.conf")
+        self.sounds = sound_device.with_name("sounds")
+        sound_device.write_text(SOUND_DEVICE.format(self.sounds))
+        self._own = {"DISPLAY": display, "ALSA_CONFIG_PATH": str(sound_device), "SDL_AUDIODRIVER": "alsa"}
         return self
 
     def __exit__(self, *_):
         self._server.terminate()
         self._server.wait()
+        self._folder.cleanup()
 
     def environment(self, **more):
         shared = {k: v for k, v in os.environ.items() if k not in ("WAYLAND_DISPLAY", "QT_QPA_PLATFORM")}
-        return {**shared, "DISPLAY": self.display, **more}
+        return {**shared, **self._own, **more}
+
+    def heard(self):
+        """Whether any sound has reached the sound device."""
+        return self.sounds.exists() and any(self.sounds.read_bytes())
 
     def move(self, x, y):
         self._pointer("mousemove", x, y)

@@ -27,7 +27,7 @@ class LinuxProgram:
     def __init__(self, desk, executable, **environment):
         self.page = Page(desk, self.SCALE)
         self._desk, self._command = desk, [str(executable)]
-        self._environment = desk.environment(**{"SDL_AUDIODRIVER": "dummy", **environment})
+        self._environment = desk.environment(**environment)
 
     def __enter__(self):
         self._process = subprocess.Popen(
