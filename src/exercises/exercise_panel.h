@@ -27,7 +27,7 @@ inline LabelStyle Answer(Outset outset) {
             .overhang = outset.x - 1_px};
 }
 
-// "Continuer" of the factored sum stands right below the corner of an answer, hence so little around a button.
+// One "Continuer" stands right below the corner of an answer, hence so little around a button.
 inline const LabelStyle kExerciseButton = [] {
     LabelStyle style = kButton;
     style.font.height = 9.75_pt;
