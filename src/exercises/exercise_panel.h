@@ -27,8 +27,7 @@ inline LabelStyle Answer(Margins outset) {
             .overhang = {outset.left - 1_px, 0}};
 }
 
-// "Continuer" of the factored sum stands right below the corner of an answer, hence so little around a
-// button.
+// One "Continuer" stands right below the corner of an answer, hence so little around a button.
 inline const LabelStyle kExerciseButton = [] {
     LabelStyle style = kButton;
     style.font.height = 9.75_pt;

@@ -40,11 +40,11 @@ class MembershipPanel : private ExercisePanel {
         Label chiffre1  { form, {  180, 3885,  420, 195 }, "",           Aligned(kExerciseLine, Align::kRight) };
         Label probleme1 { form, {  645, 3885, 3960, 195 }, "",           kExerciseLine };
         Label oui       { form, { 2940, 4515,  675, 255 }, "OUI",        kExerciseButton };
-        Label non       { form, { 3885, 4515,  675, 255 }, "NON",        kExerciseButton };
+        Label non       { form, { 3870, 4515,  675, 255 }, "NON",        kExerciseButton };
         Label lab       { form, { 3645, 4545,  120, 195 }, "",           AutoSized(kExerciseLine, AutoSize::kKeepRight) };
         Label chiffre2  { form, { 3765, 4545,  285, 195 }, kUnanswered,  Answer({0, 3_px}) };
         Label lab2      { form, { 4050, 4545,  600, 195 }, "",           kExerciseLine };
-        Label enonce1   { form, { 4890, 3870, 4530, 600 }, "Cliquez sur OUI ou NON pour répondre", kExerciseMessage };
+        Label enonce1   { form, { 4890, 3885, 4530, 600 }, "Cliquez sur OUI ou NON pour répondre", kExerciseMessage };
         Label encor_un  { form, { 4890, 4665,  990, 240 }, "Continuer",  kExerciseButton };
         UpDown flech1   { form, ArrowOver(chiffre2),       { 0, 200 },   chiffre2 };
     } ui;
