@@ -14,7 +14,7 @@ MARBLE = "#FFFFFF"
 
 def grid():
     rule, pale = mix(SKY, SEA, .4), tint(SKY, .78)
-    parts = [rect(LEFT - 1, TOP - 1, RIGHT - LEFT + 2, BOTTOM - TOP + 2, 3, fill=MARBLE, stroke=INK, stroke_width=1.7)]
+    parts = [rect(LEFT - 1, TOP - 1, RIGHT - LEFT + 2, BOTTOM - TOP + 2, 3, fill=MARBLE, stroke=INK, stroke_width=2)]
     edges = list(ROW_TOPS) + [BOTTOM]
     for i in range(11):
         for j in range(11):
@@ -22,7 +22,7 @@ def grid():
                 parts.append(rect(FIRST + PITCH * j, edges[i], PITCH, edges[i + 1] - edges[i], fill=pale))
     parts += [line(LEFT, y + .5, RIGHT, y + .5, rule, 1) for y in ROW_TOPS[1:]]
     parts += [line(FIRST + PITCH * j + .5, TOP, FIRST + PITCH * j + .5, BOTTOM, rule, 1) for j in range(1, 11)]
-    parts += [line(LEFT, ROW_TOPS[0] + .5, RIGHT, ROW_TOPS[0] + .5, INK, 1.6), line(FIRST + .5, TOP, FIRST + .5, BOTTOM, INK, 1.6)]
+    parts += [line(LEFT, ROW_TOPS[0] + .5, RIGHT, ROW_TOPS[0] + .5, INK, 1), line(FIRST + .5, TOP, FIRST + .5, BOTTOM, INK, 1)]
     for i in range(11):
         for j in range(11):
             text = str(i * j)
