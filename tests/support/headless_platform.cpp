@@ -5,6 +5,7 @@
 #include <random>
 #include <sstream>
 
+#include "support/picture_header.h"
 #include "support/run_time_error.h"
 
 namespace {
@@ -17,11 +18,21 @@ std::filesystem::path NewFolder() {
     return folder;
 }
 
+std::string ReadWhole(const std::filesystem::path& file) {
+    std::ostringstream bytes;
+    bytes << std::ifstream(file, std::ios::binary).rdbuf();
+    return bytes.str();
+}
+
+// The shortest file that counts as a picture of 640 x 480.
+constexpr std::string_view kPagePicture("GIF89a\x80\x02\xe0\x01;", 11);
+
 }  // namespace
 
 HeadlessPlatform::HeadlessPlatform() : folder(NewFolder()) {
     WriteData("18", std::string("\2\0\0\0          \2\0\0\0\2\0\0\0\2\0\0\0", 26) + std::string(94, '\0'));
-    for (const char* picture : {"11", "12", "13", "14", "15", "16"}) WriteData(picture, "picture");
+    for (const char* picture : {"11", "12", "13", "14", "15", "16"})
+        WriteData(picture, std::string(kPagePicture));
 }
 
 HeadlessPlatform::~HeadlessPlatform() {
@@ -30,18 +41,22 @@ HeadlessPlatform::~HeadlessPlatform() {
 }
 
 PicturePtr HeadlessPlatform::LoadPicture(const std::filesystem::path& file) {
-    if (!std::filesystem::exists(file)) throw FileError("Image introuvable ou illisible", file);
+    const std::string bytes = ReadWhole(file);
+    const auto size = ReadPictureHeader(std::as_bytes(std::span(bytes)));
+    if (!size) throw FileError("Image introuvable ou illisible", file);
     calls.push_back("load " + file.filename().string());
-    return std::make_shared<HeadlessPicture>(file.filename().string(), 0, 0, 640, 480);
+    return std::make_shared<HeadlessPicture>(file.filename().string(), 0, 0, size->width, size->height);
 }
 
-PicturePtr HeadlessPlatform::LoadPicture(std::span<const std::byte>) {
-    return std::make_shared<HeadlessPicture>("memory", 0, 0, 535, 113);
+PicturePtr HeadlessPlatform::LoadPicture(std::span<const std::byte> bytes) {
+    const auto size = ReadPictureHeader(bytes);
+    if (!size) throw RunTimeError("Image illisible.");
+    return std::make_shared<HeadlessPicture>("memory", 0, 0, size->width, size->height);
 }
 
 PicturePtr HeadlessPlatform::ClipPicture(const PicturePtr& picture, int x, int y, int width, int height) {
     const auto& whole = static_cast<const HeadlessPicture&>(*picture);
-    if (x < 0 || y < 0 || x + width > whole.width || y + height > whole.height) {
+    if (x < 0 || y < 0 || width <= 0 || height <= 0 || x + width > whole.width || y + height > whole.height) {
         throw RunTimeError("Découpe hors de l'image.");
     }
     return std::make_shared<HeadlessPicture>(whole.source, x, y, width, height);
@@ -61,11 +76,12 @@ void HeadlessPlatform::ReplaceContent(const std::filesystem::path& file, std::sp
     calls.push_back("write " + file.filename().string());
     std::ofstream stream(file, std::ios::binary);
     for (const std::byte byte : bytes) stream.put(static_cast<char>(byte));
+    if (!stream) throw FileError("Fichier impossible à écrire", file);
 }
 
 Platform::WindowHandle HeadlessPlatform::FindWindowA(const char* class_name, const char* title) {
     calls.push_back("find <" + std::string(class_name) + "> <" + title + ">");
-    return 77;
+    return std::string(class_name) == "Shell_traywnd" ? 77 : 0;
 }
 
 void HeadlessPlatform::SetWindowPos(WindowHandle window, WindowHandle insert_after, int x, int y, int width,
@@ -95,6 +111,5 @@ void HeadlessPlatform::WriteData(const std::string& name, const std::string& byt
 }
 
 std::string HeadlessPlatform::ReadData(const std::string& name) const {
-    std::ifstream stream(folder / "datas" / name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
+    return ReadWhole(folder / "datas" / name);
 }

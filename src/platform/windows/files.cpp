@@ -1,0 +1,51 @@
+#include "platform/windows/files.h"
+
+#include <windows.h>
+
+#include <memory>
+
+namespace {
+
+struct HandleCloser {
+    using pointer = HANDLE;
+    void operator()(HANDLE handle) const { CloseHandle(handle); }
+};
+using FileHandle = std::unique_ptr<HANDLE, HandleCloser>;
+
+FileHandle Open(const std::filesystem::path& file, DWORD access, DWORD share, DWORD disposition) {
+    const HANDLE handle =
+        CreateFileW(file.c_str(), access, share, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
+    return FileHandle(handle == INVALID_HANDLE_VALUE ? nullptr : handle);
+}
+
+bool WriteToDisk(const std::filesystem::path& file, std::span<const std::byte> bytes) {
+    const FileHandle handle = Open(file, GENERIC_WRITE, 0, CREATE_ALWAYS);
+    DWORD written = 0;
+    return handle &&
+           WriteFile(handle.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
+           written == bytes.size() && FlushFileBuffers(handle.get());
+}
+
+}  // namespace
+
+std::optional<std::vector<std::byte>> ReadWholeFile(const std::filesystem::path& file) {
+    const FileHandle handle = Open(file, GENERIC_READ, FILE_SHARE_READ, OPEN_EXISTING);
+    LARGE_INTEGER size{};
+    if (!handle || !GetFileSizeEx(handle.get(), &size) || size.HighPart != 0) return std::nullopt;
+    std::vector<std::byte> bytes(size.LowPart);
+    DWORD read = 0;
+    if (!ReadFile(handle.get(), bytes.data(), size.LowPart, &read, nullptr)) return std::nullopt;
+    bytes.resize(read);
+    return bytes;
+}
+
+bool ReplaceWholeFile(const std::filesystem::path& file, std::span<const std::byte> bytes) {
+    std::filesystem::path beside = file;
+    beside += L".nouveau";
+    if (WriteToDisk(beside, bytes) &&
+        MoveFileExW(beside.c_str(), file.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
+        return true;
+    }
+    DeleteFileW(beside.c_str());
+    return false;
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <span>
+
+#include "forms/drawing.h"
+#include "platform/windows/gdi_bitmap.h"
+
+// A picture in memory, its colours multiplied by its alpha.
+class GdiPicture final : public Picture {
+  public:
+    GdiPicture(int width, int height) : bitmap_(width, height) {}
+
+    int WidthInPixels() const override { return bitmap_.width(); }
+    int HeightInPixels() const override { return bitmap_.height(); }
+    void DrawOn(HDC dc, int x, int y) const;
+    // The part of it that lies inside it whole.
+    std::shared_ptr<GdiPicture> Clip(int x, int y, int width, int height) const;
+
+  private:
+    friend std::shared_ptr<GdiPicture> DecodePicture(std::span<const std::byte> bytes);
+    void NoteOpacity();
+
+    GdiBitmap bitmap_;
+    bool opaque_ = false;
+};
+
+// The picture in a file of any format that the system's loader knows, by content; null when it cannot be
+// read. GDI+ must be started.
+std::shared_ptr<GdiPicture> DecodePicture(std::span<const std::byte> bytes);
