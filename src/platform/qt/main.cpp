@@ -12,19 +12,30 @@ namespace {
 
 const char* const kName = "Onze Tables";
 
-// Where nobody sees a window, as in an automated run, the error stream is all.
-bool HasDisplay() {
-    const QString display = QGuiApplication::platformName();
-    return display != "offscreen" && display != "minimal";
-}
-
-void Report(const char* text) {
+void ReportToErrorStream(const char* text) {
     std::fprintf(stderr, "%s : %s\n", kName, text);
-    if (HasDisplay()) QMessageBox::critical(nullptr, kName, QString::fromUtf8(text));
 }
 
-int RunProgram(const char* started_as) {
-    QtPlatform platform(FindExecutableFolder(started_as));
+// Where nobody sees a window, as in an automated run, the error stream is all.
+void Report(const char* text) {
+    ReportToErrorStream(text);
+    const QString display = QGuiApplication::platformName();
+    if (display == "offscreen" || display == "minimal") return;
+    QMessageBox::critical(nullptr, kName, QString::fromUtf8(text));
+}
+
+// Without a display Qt would end the process in its own way.
+void HandleQtMessage(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type != QtFatalMsg) {
+        std::fprintf(stderr, "%s\n", text.toUtf8().constData());
+        return;
+    }
+    ReportToErrorStream("Aucun affichage n'est utilisable.");
+    std::fprintf(stderr, "%s\n", text.toUtf8().constData());
+    std::quick_exit(1);
+}
+
+int RunProgram(QtPlatform& platform) {
     ClockRandom random;
     Program program(platform, random);
     program.Load();
@@ -33,20 +44,23 @@ int RunProgram(const char* started_as) {
     window.Present();
     const int status = QCoreApplication::exec();
     window.RethrowFailure();
-    // Neither a sound that is still playing nor a sound server that does not answer delays the end.
-    std::quick_exit(status);
+    return status;
 }
 
 }  // namespace
 
 int main(int, char** argv) {
+    qInstallMessageHandler(HandleQtMessage);
     int only_the_name = 1;
     QApplication application(only_the_name, argv);
     QGuiApplication::setDesktopFileName("onze-tables");
+    QtPlatform platform(FindExecutableFolder(argv[0]));
+    int status = 1;
     try {
-        return RunProgram(argv[0]);
+        status = RunProgram(platform);
     } catch (const std::exception& error) {
         Report(error.what());
     }
-    std::quick_exit(1);
+    // Nothing is taken down: a sound that plays, or a sound server that does not answer, would delay the end.
+    std::quick_exit(status);
 }

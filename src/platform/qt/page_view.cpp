@@ -1,27 +1,44 @@
 #include "platform/qt/page_view.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 namespace {
 
 // In device pixels.
 constexpr int kMargin = 2;
 
-int Floor(double value) {
-    return static_cast<int>(std::floor(value));
+std::int64_t FloorOfQuotient(std::int64_t dividend, std::int64_t divisor) {
+    return dividend / divisor - (dividend % divisor < 0 ? 1 : 0);
 }
 
 }  // namespace
 
 PageView PageView::Fitting(QSize surface) {
-    const double scale = std::min(static_cast<double>(surface.width()) / kPageWidth,
-                                  static_cast<double>(surface.height()) / kPageHeight);
-    const QSize size(qRound(kPageWidth * scale), qRound(kPageHeight * scale));
-    return {scale, {(surface.width() - size.width()) / 2, (surface.height() - size.height()) / 2}, size};
+    const bool tall =
+        std::int64_t{surface.width()} * kPageHeight < std::int64_t{surface.height()} * kPageWidth;
+    return tall ? PageView(surface.width(), kPageWidth, surface)
+                : PageView(surface.height(), kPageHeight, surface);
+}
+
+PageView::PageView(int pixels, int twips, QSize surface)
+    : pixels_(std::max(1, pixels)), twips_(twips), size_(EdgeToDevice(kPageWidth), EdgeToDevice(kPageHeight)) {
+    origin_ = QPoint(surface.width() - size_.width(), surface.height() - size_.height()) / 2;
+}
+
+// A pixel belongs to what its middle lies in.
+int PageView::EdgeToDevice(int twips) const {
+    return static_cast<int>(-FloorOfQuotient(twips_ - std::int64_t{2} * twips * pixels_, 2 * twips_));
+}
+
+int PageView::PixelToPage(double position) const {
+    const auto pixel = static_cast<std::int64_t>(std::floor(position));
+    return static_cast<int>(FloorOfQuotient((2 * pixel + 1) * twips_, 2 * pixels_));
 }
 
 QPoint PageView::ToDevice(Point point) const {
-    return origin_ + QPoint(qRound(point.x * scale_), qRound(point.y * scale_));
+    return origin_ + QPoint(EdgeToDevice(point.x), EdgeToDevice(point.y));
 }
 
 QRect PageView::ToDevice(const Rect& box) const {
@@ -30,13 +47,11 @@ QRect PageView::ToDevice(const Rect& box) const {
 }
 
 int PageView::LengthToDevice(int twips) const {
-    return std::max(1, qRound(twips * scale_));
+    return std::max(1, EdgeToDevice(twips));
 }
 
 Point PageView::ToPage(QPointF position) const {
-    const double x = std::floor(position.x()) - origin_.x() + 0.5;
-    const double y = std::floor(position.y()) - origin_.y() + 0.5;
-    return {Floor(x / scale_), Floor(y / scale_)};
+    return {PixelToPage(position.x() - origin_.x()), PixelToPage(position.y() - origin_.y())};
 }
 
 Rect PageView::Around(const QRect& part) const {

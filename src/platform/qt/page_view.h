@@ -11,9 +11,9 @@ class PageView {
     static PageView Fitting(QSize surface);
 
     // Device pixels of one twip.
-    double scale() const { return scale_; }
+    double scale() const { return static_cast<double>(pixels_) / twips_; }
     QRect page() const { return {origin_, size_}; }
-    // Every edge is brought to the nearest device pixel.
+    // Every edge is brought to the nearest edge of a device pixel.
     QPoint ToDevice(Point point) const;
     QRect ToDevice(const Rect& box) const;
     // A length of the page, at least one device pixel.
@@ -27,9 +27,13 @@ class PageView {
     QRect Around(const Rect& part) const;
 
   private:
-    PageView(double scale, QPoint origin, QSize size) : scale_(scale), origin_(origin), size_(size) {}
+    PageView(int pixels, int twips, QSize surface);
+    int EdgeToDevice(int twips) const;
+    int PixelToPage(double position) const;
 
-    double scale_;
+    // As many pixels as twips, kept whole so that both ways round to the same.
+    int pixels_;
+    int twips_;
     QPoint origin_;
     QSize size_;
 };

@@ -26,6 +26,7 @@ PageWindow::PageWindow(Stage& stage, QtPlatform& platform) : stage_(stage), plat
 }
 
 void PageWindow::Present() {
+    if (!isVisible()) stage_.TakeDamage();  // the whole window will be painted
     fills_screen_ = platform_.fills_screen();
     if (fills_screen_) {
         // Where there is no window manager the state alone does nothing.

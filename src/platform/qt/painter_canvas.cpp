@@ -1,6 +1,7 @@
 #include "platform/qt/painter_canvas.h"
 
 #include <QPainter>
+#include <QPainterPath>
 #include <QPolygonF>
 
 #include "platform/qt/qt_picture.h"
@@ -28,32 +29,34 @@ void PainterCanvas::DrawPicture(const Picture& picture, Point top_left) {
 }
 
 void PainterCanvas::FillBox(const Rect& box, Color color, int radius) {
-    painter_.setPen(Qt::NoPen);
-    painter_.setBrush(ToQt(color));
-    DrawRoundedBox(view_.ToDevice(box), radius * view_.scale());
+    QPainterPath path;
+    const double round = radius * view_.scale();
+    path.addRoundedRect(view_.ToDevice(box), round, round);
+    Fill(path, color);
 }
 
 void PainterCanvas::FrameBox(const Rect& box, Color color, int radius) {
-    const double width = view_.LengthToDevice(1_px);
-    const double inset = width / 2;
-    painter_.setPen(QPen(ToQt(color), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter_.setBrush(Qt::NoBrush);
-    DrawRoundedBox(QRectF(view_.ToDevice(box)).marginsRemoved({inset, inset, inset, inset}),
-                   std::max(0.0, radius * view_.scale() - inset));
+    const int width = view_.LengthToDevice(1_px);
+    const QRect outside = view_.ToDevice(box);
+    const double outer_round = radius * view_.scale();
+    const double inner_round = std::max(0.0, outer_round - width);
+    QPainterPath path;  // the inner box is left out of the outer one
+    path.addRoundedRect(outside, outer_round, outer_round);
+    path.addRoundedRect(outside.marginsRemoved({width, width, width, width}), inner_round, inner_round);
+    Fill(path, color);
 }
 
-void PainterCanvas::DrawRoundedBox(const QRectF& box, double radius) {
+void PainterCanvas::Fill(const QPainterPath& path, Color color) {
     painter_.setRenderHint(QPainter::Antialiasing);
-    painter_.drawRoundedRect(box, radius, radius);
+    painter_.fillPath(path, ToQt(color));
 }
 
 void PainterCanvas::FillPolygon(std::span<const Point> corners, Color color) {
     QPolygonF polygon;
     for (const Point corner : corners) polygon << view_.ToDevice(corner);
-    painter_.setRenderHint(QPainter::Antialiasing);
-    painter_.setPen(Qt::NoPen);
-    painter_.setBrush(ToQt(color));
-    painter_.drawPolygon(polygon);
+    QPainterPath path;
+    path.addPolygon(polygon);
+    Fill(path, color);
 }
 
 void PainterCanvas::DrawLine(Point from, Point to, int width, Color color) {

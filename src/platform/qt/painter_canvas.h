@@ -5,6 +5,7 @@
 #include "platform/qt/page_view.h"
 
 class QPainter;
+class QPainterPath;
 
 // Paints a page on any surface whose painter works in device pixels. Edges are sharp at every scale: boxes
 // and base lines lie on whole device pixels.
@@ -21,7 +22,7 @@ class PainterCanvas final : public Canvas {
     void DrawTextLine(Point top_left, std::string_view line, const Font& font, Color color) override;
 
   private:
-    void DrawRoundedBox(const QRectF& box, double radius);
+    void Fill(const QPainterPath& path, Color color);
 
     QPainter& painter_;
     PageView view_;

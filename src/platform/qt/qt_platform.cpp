@@ -1,14 +1,12 @@
 #include "platform/qt/qt_platform.h"
 
 #include <QBuffer>
-#include <QDateTime>
 #include <QFile>
 #include <QGuiApplication>
-#include <QLocale>
-#include <QRegularExpression>
 #include <QScreen>
 #include <chrono>
 
+#include "platform/qt/local_time.h"
 #include "platform/qt/qt_picture.h"
 #include "platform/qt/replace_content.h"
 #include "support/run_time_error.h"
@@ -18,12 +16,6 @@ namespace {
 QSize ScreenSize() {
     const QScreen* screen = QGuiApplication::primaryScreen();
     return screen ? (QSizeF(screen->size()) * screen->devicePixelRatio()).toSize() : QSize();
-}
-
-// The long format without its time zone; the short one lacks the seconds.
-QString TimeFormat(const QLocale& locale) {
-    static const QRegularExpression zone(R"(,?\s*[(\[]?\bt\b[)\]]?\s*)");
-    return locale.timeFormat(QLocale::LongFormat).remove(zone);
 }
 
 }  // namespace
@@ -86,12 +78,11 @@ int QtPlatform::ScreenHeightInPixels() const {
 }
 
 std::string QtPlatform::LongDate() const {
-    return QLocale::system().toString(QDate::currentDate(), QLocale::LongFormat).toStdString();
+    return LongDateText(QLocale::system(), QDate::currentDate());
 }
 
 std::string QtPlatform::TimeOfDay() const {
-    const QLocale locale = QLocale::system();
-    return locale.toString(QTime::currentTime(), TimeFormat(locale)).toStdString();
+    return TimeText(QLocale::system(), QTime::currentTime());
 }
 
 std::int64_t QtPlatform::TickCount() const {

@@ -1,0 +1,99 @@
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+
+#include "platform/qt/local_time.h"
+#include "platform/qt/qt_platform.h"
+#include "platform/qt/replace_content.h"
+#include "support/run_time_error.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class QtFiles : public testing::Test {
+  protected:
+    QtFiles() {
+        fs::remove_all(folder);
+        fs::create_directories(folder);
+    }
+    ~QtFiles() override { fs::remove_all(folder); }
+
+    static void Replace(const fs::path& file, std::string_view text) {
+        ReplaceContent(file, std::as_bytes(std::span(text)));
+    }
+    static std::string Read(const fs::path& file) {
+        std::ifstream stream(file, std::ios::binary);
+        return {std::istreambuf_iterator<char>(stream), {}};
+    }
+    std::ptrdiff_t Entries() const {
+        return std::distance(fs::directory_iterator(folder), fs::directory_iterator());
+    }
+
+    const fs::path folder = fs::temp_directory_path() / ("onze tables é " + std::to_string(getpid()));
+};
+
+TEST_F(QtFiles, ReplacingKeepsPermissionsAndFollowsLinks) {
+    std::ofstream(folder / "18") << "old";
+    fs::permissions(folder / "18", fs::perms(0640));
+    fs::create_symlink("18", folder / "link");
+    Replace(folder / "link", "new");
+    EXPECT_EQ(Read(folder / "18"), "new");
+    EXPECT_TRUE(fs::is_symlink(folder / "link"));
+    EXPECT_EQ(fs::status(folder / "18").permissions(), fs::perms(0640));
+    EXPECT_EQ(Entries(), 2);
+}
+
+TEST_F(QtFiles, AFullDiskLeavesTheOldContentAlone) {
+    std::ofstream(folder / "18") << "old";
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit tight{10, before.rlim_max};
+    const auto old_handler = std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &tight);
+    std::string error;
+    try {
+        Replace(folder / "18", "longer than ten bytes");
+    } catch (const RunTimeError& caught) {
+        error = caught.what();
+    }
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, old_handler);
+    EXPECT_NE(error.find("18"), std::string::npos);
+    EXPECT_EQ(Read(folder / "18"), "old");
+    EXPECT_EQ(Entries(), 1);
+}
+
+TEST_F(QtFiles, TheDataFolderIsLookedForBesideTheLinkFirst) {
+    const fs::path itself = fs::read_symlink("/proc/self/exe");
+    const fs::path link = folder / "onze-tables";
+    fs::create_symlink(itself, link);
+    EXPECT_EQ(FindExecutableFolder(link), itself.parent_path());  // no data folder there yet
+    fs::create_directories(folder / "datas");
+    EXPECT_EQ(FindExecutableFolder(link), fs::canonical(folder));
+    EXPECT_EQ(FindExecutableFolder("onze-tables"), itself.parent_path());
+    fs::remove(link);
+    std::ofstream(link) << "another program";
+    EXPECT_EQ(FindExecutableFolder(link), itself.parent_path());
+    EXPECT_EQ(FindExecutableFolder(folder / "absent"), itself.parent_path());
+}
+
+TEST(QtTime, IsWrittenAsTheLocaleDoesWithSeconds) {
+    const QTime time(9, 20, 30);
+    const auto text = [time](const char* locale) { return TimeText(QLocale(locale), time); };
+    EXPECT_EQ(text("fr_FR"), "09:20:30");
+    EXPECT_EQ(text("fr_CA"), "09 h 20 min 30 s");
+    EXPECT_EQ(text("C"), "09:20:30");
+    EXPECT_EQ(text("de_DE"), "09:20:30");
+    EXPECT_EQ(text("fi_FI"), "9.20.30");
+    EXPECT_EQ(text("en_US"), "9:20:30 AM");
+    EXPECT_EQ(text("zh_CN"), "09:20:30");
+    EXPECT_EQ(text("ca_ES"), "9:20:30");
+    EXPECT_EQ(LongDateText(QLocale("fr_FR"), QDate(2001, 11, 10)), "samedi 10 novembre 2001");
+}
+
+}  // namespace

@@ -1,0 +1,170 @@
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWheelEvent>
+#include <QtTest/QTest>
+
+#include "forms/label.h"
+#include "forms/stage.h"
+#include "forms/up_down.h"
+#include "platform/qt/page_window.h"
+#include "platform/qt/qt_platform.h"
+#include "support/run_time_error.h"
+
+namespace {
+
+// Counts how often it is painted.
+class Probe final : public Control {
+  public:
+    using Control::Control;
+    void Paint(Canvas&) const override { ++paints; }
+    mutable int paints = 0;
+};
+
+// A page of a few controls in the real window, filling the screen.
+class QtWindow : public testing::Test {
+  protected:
+    QtWindow() {
+        button.on_click = [this] { ++clicks; };
+        form.Show();
+        AskForDisplay(640, 480);
+        window.Present();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+        QTest::qWait(50);
+    }
+
+    void AskForDisplay(std::uint32_t width, std::uint32_t height) {
+        DisplayModeRecord record{};
+        record.dmPelsWidth = width;
+        record.dmPelsHeight = height;
+        platform.ChangeDisplaySettingsA(record, 0);
+    }
+    QPoint On(Point point) const {
+        const PageView view = PageView::Fitting(window.size() * window.devicePixelRatio());
+        return view.ToDevice(point) / window.devicePixelRatio();
+    }
+    void Click(Point point) { QTest::mouseClick(&window, Qt::LeftButton, {}, On(point)); }
+    void TurnWheel(Point point, int eighths_of_degrees) {
+        QWheelEvent event(On(point), On(point), {}, {0, eighths_of_degrees}, {}, {}, Qt::NoScrollPhase,
+                          false);
+        QCoreApplication::sendEvent(&window, &event);
+    }
+    // Runs the event loop after an event that ends it; its exit status.
+    template <class Event>
+    int RunUntilEnd(Event event) {
+        QTimer::singleShot(0, event);
+        QTimer::singleShot(5000, [] { QCoreApplication::exit(-1); });
+        return QCoreApplication::exec();
+    }
+
+    QtPlatform platform{FindExecutableFolder({})};
+    Stage stage{platform};
+    Form form{stage};
+    Probe probe{form, {600_px, 400_px, 20_px, 20_px}};
+    Label button{form, {100_px, 100_px, 50_px, 20_px}, "OUI", {}};
+    Label answer{form, {200_px, 100_px, 30_px, 20_px}, "??", {}};
+    UpDown arrows{form, {240_px, 100_px, 20_px, 30_px}, {0, 1000}, answer};
+    Timer timer{stage};
+    PageWindow window{stage, platform};
+    int clicks = 0;
+};
+
+constexpr Point kOnButton{125_px, 110_px};
+constexpr Point kOnUpperHalf{250_px, 105_px};
+constexpr Point kOnPaper{320_px, 300_px};
+
+TEST_F(QtWindow, FillsTheScreenUntilTheOldSizeIsAskedFor) {
+    EXPECT_TRUE(window.windowStates() & Qt::WindowFullScreen);
+    EXPECT_EQ(window.size(), window.screen()->size());
+    button.on_click = [this] { AskForDisplay(1024, 768); };
+    Click(kOnButton);
+    EXPECT_FALSE(window.windowStates() & Qt::WindowFullScreen);
+    EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(QtWindow, PassesClicksAndTheLookOfThePointer) {
+    Click(kOnButton);
+    EXPECT_EQ(clicks, 1);
+    QTest::mouseDClick(&window, Qt::LeftButton, {}, On(kOnButton));
+    EXPECT_EQ(clicks, 3);
+    QTest::mouseClick(&window, Qt::RightButton, {}, On(kOnButton));
+    EXPECT_EQ(clicks, 3);
+    QTest::mouseMove(&window, On(kOnButton));
+    EXPECT_EQ(window.cursor().shape(), Qt::PointingHandCursor);
+    QTest::mouseMove(&window, On(kOnPaper));
+    EXPECT_EQ(window.cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(QtWindow, TakesAFingerForThePointer) {
+    QPointingDevice* const finger = QTest::createTouchDevice();
+    QTest::touchEvent(&window, finger).press(0, On(kOnButton), &window);
+    QTest::touchEvent(&window, finger).release(0, On(kOnButton), &window);
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(QtWindow, StepsTheWheelByWholeNotches) {
+    TurnWheel(kOnUpperHalf, 240);
+    EXPECT_EQ(arrows.value(), 2);
+    for (int quarter = 1; quarter <= 5; ++quarter) TurnWheel(kOnUpperHalf, 30);
+    EXPECT_EQ(arrows.value(), 3);
+    TurnWheel(kOnUpperHalf, -30);
+    TurnWheel(kOnUpperHalf, -120);
+    EXPECT_EQ(arrows.value(), 2);
+}
+
+TEST_F(QtWindow, RepeatsAHeldArrowByTimer) {
+    QTest::mousePress(&window, Qt::LeftButton, {}, On(kOnUpperHalf));
+    EXPECT_EQ(arrows.value(), 1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return arrows.value() >= 6; }));
+    QTest::mouseRelease(&window, Qt::LeftButton, {}, On(kOnUpperHalf));
+    const int at_release = arrows.value();
+    QTest::qWait(200);
+    EXPECT_EQ(arrows.value(), at_release);
+}
+
+TEST_F(QtWindow, PaintsOnlyWhatChanged) {
+    window.update();
+    QTest::qWait(50);
+    EXPECT_GE(probe.paints, 1);
+    probe.paints = 0;
+    button.on_click = [this] { button.SetCaption("NON"); };
+    Click(kOnButton);
+    QTest::qWait(50);
+    EXPECT_EQ(probe.paints, 0);
+    button.on_click = [this] { probe.SetLeft(580_px); };
+    Click(kOnButton);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return probe.paints == 1; }));
+    QTest::qWait(200);
+    EXPECT_EQ(probe.paints, 1);
+}
+
+TEST_F(QtWindow, EndsTheEventLoopWithTheProgram) {
+    button.on_click = [this] { platform.EndProgram(); };
+    EXPECT_EQ(RunUntilEnd([this] { Click(kOnButton); }), 0);
+    EXPECT_NO_THROW(window.RethrowFailure());
+}
+
+TEST_F(QtWindow, KeepsAnErrorForMain) {
+    button.on_click = [] { throw RunTimeError("Dépassement de capacité."); };
+    button.on_move = [this] { ++clicks; };
+    EXPECT_EQ(RunUntilEnd([this] {
+                  Click(kOnButton);
+                  QTest::mouseMove(&window, On(kOnButton));
+              }),
+              1);
+    EXPECT_THROW(window.RethrowFailure(), RunTimeError);
+    const int moves_before = clicks;
+    QTest::mouseMove(&window, On(kOnPaper));
+    QTest::mouseMove(&window, On(kOnButton));
+    EXPECT_EQ(clicks, moves_before) << "the page still gets events";
+}
+
+TEST_F(QtWindow, KeepsAnErrorOfATimerForMain) {
+    timer.on_timer = [] { throw RunTimeError("Dépassement de capacité."); };
+    timer.Start(10);
+    EXPECT_EQ(RunUntilEnd([this] { Click(kOnPaper); }), 1);
+    EXPECT_THROW(window.RethrowFailure(), RunTimeError);
+}
+
+}  // namespace
