@@ -16,6 +16,12 @@ struct SixDraws {
     Draws note_factor{{7, 4}, {12, 11}};                                     // SOL X 12
 };
 
+inline void ExpectVisible(std::initializer_list<const Control*> shown,
+                          std::initializer_list<const Control*> hidden) {
+    for (const Control* control : shown) EXPECT_TRUE(control->visible());
+    for (const Control* control : hidden) EXPECT_FALSE(control->visible());
+}
+
 // A pupil who has just opened the exercises screen.
 class Exerciser : public Pupil {
   public:
@@ -34,44 +40,43 @@ class Exerciser : public Pupil {
         Heard();
     }
 
-    // Moves an arrow away and on to a value, so that the answer is entered in any case.
+    // Moves an arrow away and on to a value, so that something is entered in any case.
     void Enter(const UpDown& arrow, int value) {
         Step(arrow, 1);
         Turn(arrow, value);
         Heard();
     }
 
+    // The click that ends an exercise, whose verdict is heard and read; arrows and answers are then dead.
+    // Leaves the screen, quits, and finds this one exercise counted, and nothing else.
+    void Finish(const Label& clicked, const Label& message, const std::string& text, const Label& encor,
+                std::initializer_list<const UpDown*> arrows) {
+        const bool right = text.starts_with("Bravo") || text.starts_with("C'est juste");
+        Heard();
+        Click(clicked);
+        Tap(clicked);
+        const Names heard = Heard();
+        EXPECT_EQ(heard.size(), 1U);
+        EXPECT_TRUE(heard.back().ends_with(right ? ".vic" : ".def"));
+        EXPECT_EQ(message.caption(), text);
+        EXPECT_TRUE(encor.visible());
+        for (const UpDown* arrow : arrows) EXPECT_FALSE(arrow->visible());
+        ExpectPuzzles(1, right, !right);
+    }
+
+    void ExpectPuzzles(int count, int right, int wrong) {
+        Click(screen.fin);
+        Counters expected;
+        expected.PuzzleCount = static_cast<std::int16_t>(count);
+        expected.PuzzleRight = static_cast<std::int16_t>(right);
+        expected.PuzzleWrong = static_cast<std::int16_t>(wrong);
+        EXPECT_EQ(Quit(), expected);
+    }
+
     Exercices& screen = screens.exercices;
 };
 
-// What a run counted on the exercises screen.
-struct Puzzles {
-    int count;
-    int right;
-    int wrong;
-
-    friend bool operator==(const Puzzles&, const Puzzles&) = default;
-};
-
-// Leaves the screen, quits, and tells what was counted there and nowhere else.
-inline Puzzles PuzzlesOf(Exerciser& exerciser) {
-    exerciser.Click(exerciser.screen.fin);
-    Counters saved = exerciser.Quit();
-    const Puzzles puzzles{saved.PuzzleCount, saved.PuzzleRight, saved.PuzzleWrong};
-    saved.PuzzleCount = saved.PuzzleRight = saved.PuzzleWrong = 0;
-    EXPECT_EQ(saved, Counters());
-    return puzzles;
-}
-
-inline void ExpectVisible(std::initializer_list<const Control*> shown,
-                          std::initializer_list<const Control*> hidden) {
-    for (const Control* control : shown) EXPECT_TRUE(control->visible());
-    for (const Control* control : hidden) EXPECT_FALSE(control->visible());
-}
-
-inline const std::string kEnterOnTwoLines =
-    "Entrez votre réponse grâce aux flèches puis\rcliquez sur cette réponse pour la correction.";
 inline const std::string kNowEnter =
     "C'est juste ! Entrez votre réponse grâce aux flèches\rpuis cliquez sur cette réponse pour la "
     "correction.";
-inline const std::string kBravo = "Bravo ! Vous avez trouvé la solution !";
+inline const std::string kBravo = "Bravo ! Vous avez trouvé la solution !" + kGoOn;
