@@ -74,15 +74,10 @@ TEST(Apprendre, EveryShowingAsksFourQuestionsOnTheChosenTable) {
 
 // The order of what a correction does, seen by what a counter's overflow leaves undone.
 TEST(Apprendre, FullCounterStopsTheRunAtItsPoint) {
-    const auto full_wrong = [](HeadlessPlatform& platform) {
-        UsageRecord record;
-        record.counters.TableWrong[5] = 32767;
-        record.counters.TableRight[5] = 32767;
-        std::string bytes;
-        for (const std::byte byte : ToBytes(record)) bytes.push_back(static_cast<char>(byte));
-        platform.WriteData("18", bytes);
-    };
-    Pupil pupil(full_wrong);
+    Counters full;
+    full.TableWrong[5] = full.TableRight[5] = 32767;
+    Pupil pupil;
+    pupil.StartWith(full);
     for (const auto& draws : {Showing().factoring, Showing().multiple, Showing().letter, Showing().sign}) {
         pupil.random.Expect(draws);
     }

@@ -4,8 +4,6 @@
 
 #include "support/pupil.h"
 
-inline const std::string kGoOn = "\rCliquez sur Continuer pour un autre exercice.";
-
 // The draws of the four exercises at one showing of the learning screen; a test replaces those it is about.
 struct Showing {
     std::vector<ScriptedDraw> factoring{kReseed, {2, 0}, {6, 0}, {6, 0}};

@@ -4,16 +4,7 @@
 
 namespace {
 
-// A pupil who starts with these counters.
 struct BilanTest : testing::Test {
-    void StartWith(const Counters& counters) {
-        UsageRecord record;
-        record.counters = counters;
-        const auto bytes = ToBytes(record);
-        pupil.platform.WriteData("18", {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
-        pupil.program.Load();
-    }
-
     Pupil pupil;
     Bilan& screen = pupil.screens.bilan;
 };
@@ -29,7 +20,7 @@ TEST_F(BilanTest, EveryCounterInItsPlace) {
     counters.PuzzleCount = 32767;
     counters.PuzzleRight = -3;
     counters.PuzzleWrong = 12;
-    StartWith(counters);
+    pupil.StartWith(counters);
     pupil.Click(pupil.screens.depart.dates);
     for (int i = 0; i < kStoredTables; ++i) {
         EXPECT_EQ(screen.consult[i].caption(), std::to_string(100 + i));
@@ -63,7 +54,7 @@ TEST_F(BilanTest, SentencesAndTheWordForTries) {
                  {40000, "Il y a eu 40000 essais de "},
                  {-2, "Il y a eu-2 essai de "}};
     for (const auto& [solves, tries] : cases) {
-        StartWith({.LessonConsultations = TaggedNumber::Integer(-1),
+        pupil.StartWith({.LessonConsultations = TaggedNumber::Integer(-1),
                    .PythagoreConsultations = TaggedNumber::Integer(3),
                    .PythagoreSolves = TaggedNumber::Long(solves)});
         pupil.Click(pupil.screens.depart.heure);

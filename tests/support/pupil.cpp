@@ -19,6 +19,14 @@ Pupil::Pupil(const std::function<void(HeadlessPlatform&)>& prepare)
     program.Load();
 }
 
+void Pupil::StartWith(const Counters& counters) {
+    UsageRecord record;
+    record.counters = counters;
+    const auto bytes = ToBytes(record);
+    platform.WriteData("18", {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+    program.Load();
+}
+
 Point Pupil::On(const Control& control) const {
     const Form* front = program.stage().front();
     const Point middle = Middle(control.box());

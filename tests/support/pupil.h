@@ -19,6 +19,9 @@ class Pupil {
     Pupil() : Pupil([](HeadlessPlatform&) {}) {}
     explicit Pupil(const std::function<void(HeadlessPlatform&)>& prepare);
 
+    // Starts the program anew, with these counters in its file.
+    void StartWith(const Counters& counters);
+
     // Moves onto a control, presses and releases. Click() fails the test when the pointer cannot find the
     // control, Tap() does not mind.
     void Click(const Control& control);
@@ -52,5 +55,7 @@ class Pupil {
 
     std::size_t heard_ = 0;
 };
+
+inline const std::string kGoOn = "\rCliquez sur Continuer pour un autre exercice.";
 
 using Names = std::vector<std::string>;
