@@ -48,3 +48,9 @@ class Canvas {
     // One line of UTF-8 text without any line break; top_left is the corner of its cell.
     virtual void DrawTextLine(Point top_left, std::string_view line, const Font& font, Color color) = 0;
 };
+
+// A filled box with a darker edge at its foot, like a key to press.
+inline void FillKey(Canvas& canvas, const Rect& box, Color fill, Color foot, int radius) {
+    canvas.FillBox(box, foot, radius);
+    canvas.FillBox({box.left, box.top, box.width, box.height - 3_px}, fill, radius);
+}

@@ -48,7 +48,8 @@ TextLayout Label::Layout() const {
 }
 
 void Label::Paint(Canvas& canvas) const {
-    if (style_.fill) canvas.FillBox(Reach(), *style_.fill, style_.radius);
+    if (style_.fill)
+        FillKey(canvas, Reach(), *style_.fill, style_.foot.value_or(*style_.fill), style_.radius);
     if (style_.frame) canvas.FrameBox(Reach(), *style_.frame, style_.radius);
     if (!caption_.empty()) PaintText(canvas);
 }

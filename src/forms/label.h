@@ -18,6 +18,7 @@ struct LabelStyle {
     Align align = Align::kLeft;
     bool middle = false;          // the text stands at half height, else at the top
     std::optional<Color> fill{};  // transparent without
+    std::optional<Color> foot{};  // makes the fill that of a key
     std::optional<Color> frame{};
     int radius = 0;
     Margins outset{};    // how far fill, frame and pointer zone pass the box

@@ -39,9 +39,13 @@ void UpDown::Paint(Canvas& canvas) const {
 void UpDown::PaintHalf(Canvas& canvas, int direction) const {
     const int height = box().height / 2;
     const Rect half{box().left, direction > 0 ? box().top : box().top + height, box().width, height};
-    canvas.FillBox(half, held_half_ == direction ? kHeldArrowFill : kArrowFill, kArrowRadius);
+    if (held_half_ == direction) {
+        canvas.FillBox(half, kHeldArrowFill, kArrowRadius);
+    } else {
+        FillKey(canvas, half, kArrowFill, kKeyFoot, kArrowRadius);
+    }
     canvas.FrameBox(half, kArrowFrame, kArrowRadius);
-    const Point middle{half.left + half.width / 2, half.top + half.height / 2};
+    const Point middle{half.left + half.width / 2, half.top + half.height / 2 - 1_px};
     const int reach = std::min(half.width, half.height) / 4;
     const std::array<Point, 3> triangle{Point{middle.x - 3 * reach / 2, middle.y + direction * reach},
                                         Point{middle.x + 3 * reach / 2, middle.y + direction * reach},

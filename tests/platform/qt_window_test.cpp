@@ -97,9 +97,9 @@ TEST_F(QtWindow, PassesClicksAndTheLookOfThePointer) {
 }
 
 TEST_F(QtWindow, TakesAFingerForThePointer) {
-    QPointingDevice* const finger = QTest::createTouchDevice();
-    QTest::touchEvent(&window, finger).press(0, On(kOnButton), &window);
-    QTest::touchEvent(&window, finger).release(0, On(kOnButton), &window);
+    const std::unique_ptr<QPointingDevice> finger(QTest::createTouchDevice());
+    QTest::touchEvent(&window, finger.get()).press(0, On(kOnButton), &window);
+    QTest::touchEvent(&window, finger.get()).release(0, On(kOnButton), &window);
     EXPECT_EQ(clicks, 1);
 }
 

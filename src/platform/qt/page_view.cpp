@@ -23,7 +23,9 @@ PageView PageView::Fitting(QSize surface) {
 }
 
 PageView::PageView(int pixels, int twips, QSize surface)
-    : pixels_(std::max(1, pixels)), twips_(twips), size_(EdgeToDevice(kPageWidth), EdgeToDevice(kPageHeight)) {
+    : pixels_(std::max(1, pixels)),
+      twips_(twips),
+      size_(EdgeToDevice(kPageWidth), EdgeToDevice(kPageHeight)) {
     origin_ = QPoint(surface.width() - size_.width(), surface.height() - size_.height()) / 2;
 }
 

@@ -43,7 +43,10 @@ class Device {
         SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
         SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Onze Tables");
     }
-    ~Device() { Close(); }
+    ~Device() {
+        Close();
+        SDL_TLSCleanup();  // of a thread that SDL did not start
+    }
     Device(const Device&) = delete;
     Device& operator=(const Device&) = delete;
 
