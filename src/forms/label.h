@@ -21,7 +21,7 @@ struct LabelStyle {
     std::optional<Color> frame{};
     int radius = 0;
     Margins outset{};    // how far fill, frame and pointer zone pass the box
-    Margins overhang{};  // how far the text alone may pass the box
+    Margins overhang{};  // how far the text alone may pass the box; below 0: how far it keeps inside
     AutoSize auto_size = AutoSize::kNone;
 };
 
