@@ -24,7 +24,7 @@ const LabelStyle kOperation{.font = {13.5_pt, true}, .color = kRed, .middle = tr
 
 // The texts keep clear of the grid and of the page's edge, and begin one under the other.
 LabelStyle Text(int inset, bool bold = false) {
-    return {.font = {9.75_pt, bold}, .color = kInk, .overhang = -inset};
+    return {.font = {9.75_pt, bold}, .color = kInk, .overhang = {-inset, 0}};
 }
 
 Rect ColumnBox(int i) {
