@@ -41,7 +41,7 @@ TextLayout Label::Layout() const {
     const Size size{TextBox().width, TextBox().height};
     if (!layout_ || layout_box_ != size) {
         const std::string_view text = style_.align == Align::kCenter ? Trimmed(caption_) : caption_;
-        layout_ = LayOutInBox(platform(), text, style_.font, size);
+        layout_ = LayOutInBox(platform(), text, style_.font, size, style_.last_line_limit);
         layout_box_ = size;
     }
     return *layout_;

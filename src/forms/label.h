@@ -21,8 +21,9 @@ struct LabelStyle {
     std::optional<Color> foot{};  // makes the fill that of a key
     std::optional<Color> frame{};
     int radius = 0;
-    Margins outset{};    // how far fill, frame and pointer zone pass the box
-    Margins overhang{};  // how far the text alone may pass the box
+    Margins outset{};         // how far fill, frame and pointer zone pass the box
+    Margins overhang{};       // how far the text alone may pass the box; below 0: how far it keeps inside
+    int last_line_limit = 0;  // the widest that the last line may be where something stands beside it; 0: any
     AutoSize auto_size = AutoSize::kNone;
 };
 

@@ -83,11 +83,14 @@ TextLayout LayOutUnwrapped(Platform& platform, std::string_view text, const Font
     return LayOut(platform, text, font, std::numeric_limits<int>::max());
 }
 
-TextLayout LayOutInBox(Platform& platform, std::string_view text, const Font& font, Size box) {
+TextLayout LayOutInBox(Platform& platform, std::string_view text, const Font& font, Size box,
+                       int last_line_limit) {
     Font smaller = font;
     while (true) {
         TextLayout layout = LayOut(platform, text, smaller, box.width);
-        const bool fits = layout.Width() <= box.width && layout.Height() <= box.height;
+        const int last_line = last_line_limit > 0 ? last_line_limit : box.width;
+        const bool fits = layout.Width() <= box.width && layout.Height() <= box.height &&
+                          layout.lines.back().width <= last_line;
         if (fits || smaller.height - kShrinkStep < kSmallestHeight) return layout;
         smaller.height -= kShrinkStep;
     }

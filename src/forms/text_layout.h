@@ -27,5 +27,6 @@ struct TextLayout {
 TextLayout LayOutUnwrapped(Platform& platform, std::string_view text, const Font& font);
 
 // The text wrapped into a box, in the font asked for or, when it would not fit, in the largest smaller size
-// that does (down to 4 points).
-TextLayout LayOutInBox(Platform& platform, std::string_view text, const Font& font, Size box);
+// that does (down to 4 points). The last line may be given a narrower limit than the box (0: none).
+TextLayout LayOutInBox(Platform& platform, std::string_view text, const Font& font, Size box,
+                       int last_line_limit = 0);

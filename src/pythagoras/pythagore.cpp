@@ -20,9 +20,12 @@ const LabelStyle kNumber{.font = {13.5_pt, true},
                          .middle = true,
                          .overhang = 1_px};
 const LabelStyle kBar{.fill = kYellow, .frame = kBlack};
-const LabelStyle kOperation{.font = {13.5_pt, true}, .color = kRed};
-const LabelStyle kText{.font = {9.75_pt, false}, .color = kInk};
-const LabelStyle kHeading{.font = {9.75_pt, true}, .color = kInk};
+const LabelStyle kOperation{.font = {13.5_pt, true}, .color = kRed, .middle = true};
+
+// The texts keep clear of the grid and of the page's edge, and begin one under the other.
+LabelStyle Text(int inset, bool bold = false) {
+    return {.font = {9.75_pt, bold}, .color = kInk, .overhang = {-inset, 0}};
+}
 
 Rect ColumnBox(int i) {
     constexpr int kTops[kNumbers] = {104, 123, 142, 162, 181, 200, 219, 238, 257, 276, 295};
@@ -64,13 +67,13 @@ Pythagore::Pythagore(Stage& stage, SharedState& shared, Form& depart)
       colonne(form, kNumbers, ColumnBox, "", kNumber),
       rangee(form, kNumbers, RowBox, "", kNumber),
       operation{ form, { 184_px, 449_px, 238_px,  29_px }, "",          kOperation },
-      pita1    { form, {   1_px, 180_px, 207_px, 107_px }, kHistory,    kText },
-      pita2    { form, { 445_px,  95_px, 184_px, 125_px }, kLife,       kText },
-      Label1   { form, { 438_px, 207_px, 197_px,  21_px }, "Théorème de l'Hypoténuse", kHeading },
-      pita3    { form, { 437_px, 224_px, 197_px,  88_px }, kTheorem,    kText },
-      pita4    { form, {   4_px, 323_px, 637_px,  48_px }, kHowTo,      kText },
-      Label3   { form, {   2_px, 386_px, 630_px,  32_px }, kExample,    kText },
-      Label2   { form, {   4_px, 433_px, 539_px,  20_px }, kInvitation, kText },
+      pita1    { form, {   1_px, 180_px, 207_px, 107_px }, kHistory,    Text(7_px) },
+      pita2    { form, { 445_px,  95_px, 184_px, 125_px }, kLife,       Text(0) },
+      Label1   { form, { 438_px, 207_px, 197_px,  21_px }, "Théorème de l'Hypoténuse", Text(7_px, true) },
+      pita3    { form, { 437_px, 224_px, 197_px,  88_px }, kTheorem,    Text(8_px) },
+      pita4    { form, {   4_px, 323_px, 637_px,  48_px }, kHowTo,      Text(4_px) },
+      Label3   { form, {   2_px, 386_px, 630_px,  32_px }, kExample,    Text(6_px) },
+      Label2   { form, {   4_px, 433_px, 539_px,  20_px }, kInvitation, Text(4_px) },
       retour   { form, { 553_px, 460_px,  78_px,  16_px }, "RETOUR",    kButton },
       shared_(shared),
       depart_(depart),

@@ -5,7 +5,8 @@
 
 namespace {
 
-const LabelStyle kHeading{.font = {8.25_pt, true}, .color = kInk, .align = Align::kCenter};
+const LabelStyle kHeading{
+    .font = {8.25_pt, true}, .color = kInk, .align = Align::kCenter, .overhang = {4_px, 0}};
 const LabelStyle kSentence{.font = {8.25_pt, true}, .color = kInk};
 const LabelStyle kValue{.font = {13.5_pt, true}, .color = kInk, .align = Align::kCenter};
 
@@ -22,7 +23,7 @@ auto Column(int left) {
 // clang-format off
 Bilan::Bilan(Stage& stage, SharedState& shared, Form& depart)
     : form(stage),
-      // The headings are as wide as it takes to stand in the middle of what they head.
+      // The headings are as wide as it takes to stand in the middle of what they head, and may pass that.
       //              left    top     width   height
       Label1 { form, { 190_px, 174_px,  56_px,  14_px }, "Tables",    kHeading },
       Label2 { form, { 247_px, 174_px,  61_px,  14_px }, "Consultée", kHeading },
@@ -36,8 +37,8 @@ Bilan::Bilan(Stage& stage, SharedState& shared, Form& depart)
       faux(form, kStoredTables, Column(425_px), "", kValue),
       Label7 { form, { 494_px, 275_px, 142_px,  14_px }, "Entraînement",     kHeading },
       Label8 { form, { 498_px, 307_px,  70_px,  14_px }, "Exercices",        kSentence },
-      Label9 { form, { 498_px, 332_px,  62_px,  28_px }, "Réponses justes",  kHeading },
-      Label10{ form, { 498_px, 367_px,  62_px,  28_px }, "Réponses fausses", kHeading },
+      Label9 { form, { 498_px, 332_px,  54_px,  28_px }, "Réponses justes",  kHeading },
+      Label10{ form, { 498_px, 367_px,  54_px,  28_px }, "Réponses fausses", kHeading },
       n_exo  { form, { 570_px, 302_px,  63_px,  28_px }, "", kValue },
       n_exoj { form, { 570_px, 334_px,  63_px,  28_px }, "", kValue },
       n_exof { form, { 570_px, 366_px,  63_px,  28_px }, "", kValue },
