@@ -43,27 +43,15 @@ TEST(Leçon, EveryReminderIsReadableInItsBoxAndTrue) {
     EXPECT_NE(page.l8.caption().find("entre le 2 et le 6  --> 286.  Autre exemple"), std::string::npos);
 }
 
-// Records where lines of text end.
-class TextEnds final : public TextCanvas {
-  public:
-    explicit TextEnds(Platform& platform) : platform_(platform) {}
-    void DrawTextLine(Point at, std::string_view line, const Font& font, Color) override {
-        texts.emplace_back(line);
-        ends.push_back(at.x + platform_.MeasureText(line, font).width);
-    }
-
-    std::vector<int> ends;
-
-  private:
-    Platform& platform_;
-};
-
-TEST(Leçon, WorkedExampleHasItsDigitsOneUnderTheOther) {
+TEST(Leçon, TextsKeepClearOfTheirNeighbours) {
     Pupil pupil;
-    TextEnds canvas(pupil.platform);
-    pupil.screens.leçon.l9.Paint(canvas);
-    EXPECT_EQ(canvas.texts, (Names{"342", "X  57"}));
-    EXPECT_EQ(canvas.ends, (std::vector<int>{580_px, 580_px}));
+    Leçon& page = pupil.screens.leçon;
+    EXPECT_LE(page.l1.box().left + page.l1.Layout().Width(), page.l3.box().left);
+    // The worked example stands beside the end of l10, its digits one under the other.
+    EXPECT_LE(page.l10.box().left + page.l10.Layout().lines.back().width, page.l9.box().left);
+    EXPECT_EQ(page.l9.Layout().lines.size(), 2U);
+    EXPECT_EQ(page.l9.caption(), "342\rX  57");
+    EXPECT_EQ(page.l9.style().align, Align::kRight);
 }
 
 }  // namespace

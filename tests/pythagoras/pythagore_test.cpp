@@ -92,25 +92,17 @@ TEST_F(PythagoreTest, BarsCrossOnTheProduct) {
 TEST_F(PythagoreTest, BlinksTenTimesWithAClickEach) {
     Solve(3, 4);
     EXPECT_EQ(pupil.Heard(), (Names{"1", "2", "3"}));  // two picks and the first flash
-    const std::int64_t start = pupil.platform.now;
-    Times changes;
-    bool lit = true;
-    EXPECT_TRUE(screen.cachehaut.visible());
-    while (pupil.platform.now < start + 1999) {
-        pupil.Wait(1);
-        EXPECT_EQ(screen.cachehaut.visible(), screen.cachelong.visible());
-        if (screen.cachehaut.visible() != lit) changes.push_back(pupil.platform.now - start);
-        lit = screen.cachehaut.visible();
+    for (int ms = 0; ms < 2000; ++ms) {
+        SCOPED_TRACE(ms);
+        ASSERT_EQ(screen.cachehaut.visible(), ms % 200 < 50);
+        ASSERT_EQ(screen.cachelong.visible(), ms % 200 < 50);
+        ASSERT_EQ(Enabled(), 0U);
         pupil.Tap(screen.colonne[1]);
-        pupil.Tap(screen.rangee[1]);
+        pupil.Wait(1);
     }
-    EXPECT_EQ(changes, (Times{50, 200, 250, 400, 450, 600, 650, 800, 850, 1000, 1050, 1200, 1250, 1400, 1450,
-                              1600, 1650, 1800, 1850}));
     EXPECT_EQ(pupil.Heard(), (Names{"4", "5", "6", "7", "8", "9", "10", "1", "2"}));
-    EXPECT_EQ(Enabled(), 0U);
-    pupil.Wait(1);
     EXPECT_EQ(Enabled(), 22U);
-    EXPECT_FALSE(pupil.program.stage().NextDue() < pupil.platform.now + 200) << "still awake after the blink";
+    EXPECT_GT(*pupil.program.stage().NextDue(), pupil.platform.now + 200) << "still awake after the blink";
 }
 
 TEST_F(PythagoreTest, LeavingDropsAHalfMadePair) {
@@ -120,13 +112,10 @@ TEST_F(PythagoreTest, LeavingDropsAHalfMadePair) {
     EXPECT_TRUE(pupil.Sees(pupil.screens.depart.form));
     EXPECT_EQ(pupil.Heard(), Names{"3"});
     Open();
-    EXPECT_EQ(screen.operation.caption(), "8 que multiplie 7 = 56");
     pupil.Click(screen.colonne[4]);
     EXPECT_EQ(screen.operation.caption(), "4 que multiplie ?? = ??");
     Leave();
-    const Counters saved = pupil.Quit();
-    EXPECT_EQ(saved.PythagoreSolves, TaggedNumber::Integer(0));
-    EXPECT_EQ(saved.PythagoreConsultations, TaggedNumber::Integer(2));
+    EXPECT_EQ(pupil.Quit().PythagoreSolves, TaggedNumber::Integer(0));
 }
 
 TEST_F(PythagoreTest, ABlinkRunsOnUnseenAndOpensAllNumbersAtItsEnd) {
@@ -147,24 +136,21 @@ TEST_F(PythagoreTest, ABlinkRunsOnUnseenAndOpensAllNumbersAtItsEnd) {
     EXPECT_EQ(screen.operation.caption(), "3 que multiplie 5 = 15");
     EXPECT_EQ(screen.cachehaut.box(), (Rect{338_px, 85_px, 20_px, 133_px}));
     EXPECT_EQ(Enabled(), 11U) << "the row stays open during such a blink";
-    Leave();
-    EXPECT_EQ(pupil.Quit().PythagoreSolves, TaggedNumber::Integer(2));
 }
 
 TEST_F(PythagoreTest, ANewerBlinkGoesFirst) {
     const struct {
         std::int64_t second_pair;
         Times older_flashes;  // after the newer blink's end
-        std::int64_t end;
     } cases[] = {
         // The older was dark: it flashes again at once, eight times.
-        {300, {2300, 2500, 2700, 2900, 3100, 3300, 3500, 3700}, 3900},
+        {300, {2300, 2500, 2700, 2900, 3100, 3300, 3500, 3700}},
         // The older was lit: its dark time is still to come.
-        {210, {2360, 2560, 2760, 2960, 3160, 3360, 3560, 3760}, 3960},
+        {210, {2360, 2560, 2760, 2960, 3160, 3360, 3560, 3760}},
         // The older had no flash left: it ends with the newer.
-        {1900, {}, 3900},
+        {1900, {}},
     };
-    for (const auto& [second_pair, older_flashes, end] : cases) {
+    for (const auto& [second_pair, older_flashes] : cases) {
         SCOPED_TRACE(second_pair);
         Solve(1, 1);
         const std::int64_t start = pupil.platform.now;
@@ -173,17 +159,11 @@ TEST_F(PythagoreTest, ANewerBlinkGoesFirst) {
         Open();
         Solve(9, 9);
         pupil.Heard();
-        Times expected;
-        for (int flash = 1; flash < 10; ++flash) expected.push_back(second_pair + 200 * flash);
-        expected.insert(expected.end(), older_flashes.begin(), older_flashes.end());
-        EXPECT_EQ(HearUntil(start, second_pair + 1999), Times(expected.begin(), expected.begin() + 9));
+        EXPECT_EQ(HearUntil(start, second_pair + 1999).size(), 9U);
         EXPECT_EQ(Enabled(), 0U);
-        const Times rest = HearUntil(start, end - 1);
-        EXPECT_EQ(rest, older_flashes);
-        EXPECT_EQ(Enabled(), older_flashes.empty() ? 0U : 22U);
-        EXPECT_EQ(screen.cachelong.box().top, 275_px) << "the older goes on with the newer's bars";
-        EXPECT_EQ(HearUntil(start, end + 1000), Times{});
+        EXPECT_EQ(HearUntil(start, second_pair + 2000 + 3000), older_flashes);
         EXPECT_EQ(Enabled(), 22U);
+        EXPECT_EQ(screen.cachelong.box().top, 275_px) << "the older goes on with the newer's bars";
     }
 }
 
