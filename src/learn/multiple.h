@@ -4,6 +4,13 @@
 
 #include "learn/panel.h"
 
+// The sum's place begins right at the end of the product line; its frame keeps a little off the "=".
+inline const LabelStyle kSumAnswer = [] {
+    LabelStyle style = kPanelAnswer;
+    style.outset = style.overhang = {-4_px, 0, 4_px, 0};
+    return style;
+}();
+
 // Whether the sum of two numbers is a multiple of the table and, when it is, how it is written as a product.
 struct MultipleQuestion {
     int table;
@@ -46,7 +53,7 @@ class MultiplePanel : private Panel {
         Label non            { form, { 440_px, 211_px,  60_px, 18_px }, "NON",       kButton };
         Label chiffre2       { form, { 246_px, 204_px,  40_px, 22_px }, kUnanswered, kPanelAnswer };
         Label operation2     { form, { 290_px, 204_px,   0_px, 22_px }, "",          AutoSized(kPanelLine, AutoSize::kKeepLeft) };
-        Label chiffre3       { form, { 470_px, 204_px,  52_px, 22_px }, kUnanswered, kPanelAnswer };
+        Label chiffre3       { form, { 470_px, 204_px,  52_px, 22_px }, kUnanswered, kSumAnswer };
         Label encore_deux    { form, { 549_px, 236_px,  70_px, 16_px }, "Continuer", kButton };
         UpDown fleche2       { form, { 246_px, 227_px,  22_px, 30_px }, { 0, 50 },   chiffre2 };
         UpDown fleche3       { form, { 470_px, 227_px,  22_px, 30_px }, { 0, 1000 }, chiffre3 };
