@@ -7,6 +7,7 @@
 namespace {
 
 constexpr UINT kBitmapAlphabet = 1252;
+constexpr int kLargestBitmap = 16;  // in pixels; larger letters look better drawn smooth
 
 bool FitsBitmapAlphabet(std::wstring_view text) {
     BOOL missing = FALSE;
@@ -39,17 +40,16 @@ FontBook::~FontBook() {
 
 HFONT FontBook::FontFor(std::wstring_view text, const Font& font) {
     const int pixels = ToPixels(font.height);
-    const HFONT bitmap = FitsBitmapAlphabet(text) ? Get({Face::kBitmap, pixels, font.bold}) : nullptr;
+    const bool bitmap_serves = pixels <= kLargestBitmap && FitsBitmapAlphabet(text);
+    const HFONT bitmap = bitmap_serves ? Get({Face::kBitmap, pixels, font.bold}) : nullptr;
     return bitmap ? bitmap : Get({Face::kScalable, pixels, font.bold});
 }
 
 SIZE FontBook::Measure(std::wstring_view line, const Font& font) {
     const Selected selected(dc_, FontFor(line, font));
-    TEXTMETRICW metrics{};
     SIZE size{};
-    GetTextMetricsW(dc_, &metrics);
     GetTextExtentPoint32W(dc_, line.data(), static_cast<int>(line.size()), &size);
-    return {size.cx, metrics.tmHeight};
+    return {size.cx, Metrics().tmHeight};
 }
 
 HFONT FontBook::Get(const Key& key) {
@@ -65,15 +65,24 @@ HFONT FontBook::Make(const Key& key) {
     wanted.lfHeight = -pixels;
     wanted.lfWeight = bold ? FW_BOLD : FW_NORMAL;
     wanted.lfCharSet = bitmap ? ANSI_CHARSET : DEFAULT_CHARSET;
-    wanted.lfQuality = NONANTIALIASED_QUALITY;
+    wanted.lfQuality = ANTIALIASED_QUALITY;
     wanted.lfPitchAndFamily = VARIABLE_PITCH | FF_SWISS;
     std::wcscpy(wanted.lfFaceName, bitmap ? L"MS Sans Serif" : L"Microsoft Sans Serif");
     const HFONT font = CreateFontIndirectW(&wanted);
-
-    const Selected selected(dc_, font);
-    TEXTMETRICW metrics{};
-    GetTextMetricsW(dc_, &metrics);
-    if (!bitmap || metrics.tmHeight - metrics.tmInternalLeading == pixels) return font;
+    if (!bitmap || EmOf(font) == pixels) return font;
     DeleteObject(font);
     return nullptr;
+}
+
+// The system answers a size that it has no bitmaps of with another one.
+int FontBook::EmOf(HFONT font) const {
+    const Selected selected(dc_, font);
+    const TEXTMETRICW metrics = Metrics();
+    return static_cast<int>(metrics.tmHeight - metrics.tmInternalLeading);
+}
+
+TEXTMETRICW FontBook::Metrics() const {
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(dc_, &metrics);
+    return metrics;
 }

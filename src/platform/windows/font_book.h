@@ -9,7 +9,7 @@
 #include "forms/drawing.h"
 
 // The system's fonts, each made once. "MS Sans Serif" has bitmaps of a few sizes and letters of one alphabet
-// only; other sizes and other letters come from the scalable face that looks like it.
+// only; other sizes and other letters come from "Microsoft Sans Serif", its scalable edition.
 class FontBook {
   public:
     FontBook();
@@ -28,6 +28,9 @@ class FontBook {
     // Null when the system has no such bitmaps.
     HFONT Make(const Key& key);
     HFONT Get(const Key& key);
+    int EmOf(HFONT font) const;
+    // Of the font that is selected.
+    TEXTMETRICW Metrics() const;
 
     HDC dc_;
     std::map<Key, HFONT> fonts_;
