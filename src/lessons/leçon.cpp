@@ -10,17 +10,12 @@ constexpr Color kGreen{0, 128, 0};
 constexpr Font kLarge{9.75_pt, false};
 constexpr Font kSmall{8.25_pt, false};
 
-LabelStyle Note(const Font& font, Color color) {
-    return {.font = font, .color = color};
+// A text may be kept off what reaches into its box from the right: another box, a line, the page's edge.
+LabelStyle Note(const Font& font, Color color, int kept_off = 0) {
+    return {.font = font, .color = color, .overhang = {0, 0, -kept_off, 0}};
 }
 
-// Where something reaches into the box: that of l3 into that of l1, a line into that of l5, the page's edge
-// into that of l6; the worked example stands just behind the end of l10.
-LabelStyle Narrowed(LabelStyle style, int by) {
-    style.overhang.right = -by;
-    return style;
-}
-
+// The worked example stands just behind the end of l10.
 const LabelStyle kBeforeL9{.font = kSmall, .color = kInk, .last_line_limit = 162_px};
 const LabelStyle kWorkedExample{.font = kSmall, .color = kInk, .align = Align::kRight};
 
@@ -67,12 +62,12 @@ Leçon::Leçon(Stage& stage, SharedState& shared, Form& depart)
       Line4{ form, { 145_px, 446_px }, { 452_px, 446_px }, 2_px, kDarkRed },
       Line5{ form, {  67_px, 148_px }, { 198_px, 148_px }, 2_px, kGreen },
       //              left    top     width   height
-      l1    { form, {  47_px, 157_px, 243_px,  96_px }, kRepeatedSum,          Narrowed(Note(kLarge, kDarkRed), 25_px) },
+      l1    { form, {  47_px, 157_px, 243_px,  96_px }, kRepeatedSum,          Note(kLarge, kDarkRed, 25_px) },
       l2    { form, { 306_px,  72_px, 272_px,  64_px }, kWords,                Note(kLarge, kBlue) },
       l3    { form, { 271_px, 157_px, 344_px,  48_px }, kOrder,                Note(kLarge, kGreen) },
       l4    { form, {   9_px,  61_px, 184_px,  78_px }, kOneAndZero,           Note(kSmall, kInk) },
-      l5    { form, {  81_px, 264_px, 295_px,  52_px }, kMultiples,            Narrowed(Note(kSmall, kInk), 8_px) },
-      l6    { form, { 501_px, 232_px, 141_px,  59_px }, kTimesTen,             Narrowed(Note(kSmall, kInk), 8_px) },
+      l5    { form, {  81_px, 264_px, 295_px,  52_px }, kMultiples,            Note(kSmall, kInk, 8_px) },
+      l6    { form, { 501_px, 232_px, 141_px,  59_px }, kTimesTen,             Note(kSmall, kInk, 8_px) },
       l7    { form, {  11_px, 456_px, 515_px,  13_px }, kDigitTimesEleven,     Note(kSmall, kInk) },
       l8    { form, {  58_px, 386_px, 475_px,  55_px }, kTwoDigitsTimesEleven, Note(kSmall, kDarkRed) },
       l9    { form, { 550_px, 351_px,  30_px,  33_px }, "",                    kWorkedExample },

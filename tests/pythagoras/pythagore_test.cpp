@@ -161,8 +161,10 @@ TEST_F(PythagoreTest, ANewerBlinkGoesFirst) {
         pupil.Heard();
         EXPECT_EQ(HearUntil(start, second_pair + 1999).size(), 9U);
         EXPECT_EQ(Enabled(), 0U);
-        EXPECT_EQ(HearUntil(start, second_pair + 2000 + 3000), older_flashes);
-        EXPECT_EQ(Enabled(), 22U);
+        Times rest = HearUntil(start, second_pair + 2000);
+        EXPECT_EQ(Enabled(), 22U) << "each blink opens all numbers at its end";
+        for (const std::int64_t time : HearUntil(start, second_pair + 5000)) rest.push_back(time);
+        EXPECT_EQ(rest, older_flashes);
         EXPECT_EQ(screen.cachelong.box().top, 275_px) << "the older goes on with the newer's bars";
     }
 }
