@@ -80,23 +80,6 @@ TEST(QtCanvas, AControlIsFoundExactlyWhereItIsPainted) {
     }
 }
 
-TEST(QtCanvas, FramesAndLinesStayInsideTheirBoxesAndSharp) {
-    for (const QSize screen : kScreens) {
-        SCOPED_TRACE(testing::Message() << screen.width() << " x " << screen.height());
-        const Rect box{1005, 2003, 1507, 612};
-        Sheet framed(screen);
-        framed.canvas.FrameBox(box, kBlack, 0);
-        EXPECT_EQ(framed.Inked(), framed.view.ToDevice(box));
-        EXPECT_EQ(framed.At(framed.view.ToDevice(box).center()), kPaperPixel);
-        EXPECT_EQ(framed.At(framed.view.ToDevice(box).topLeft()), qRgb(0, 0, 0));
-
-        Sheet ruled(screen);
-        ruled.canvas.DrawLine({300, 450}, {3000, 450}, 1_px, kBlack);
-        EXPECT_EQ(ruled.Inked(), ruled.view.ToDevice(Rect{300, 450, 2700 + 1_px, 1_px}));
-        EXPECT_EQ(ruled.At(ruled.Inked().center()), qRgb(0, 0, 0));
-    }
-}
-
 // Labels are laid out once, in twips, whatever the screen is.
 TEST(QtCanvas, TextTakesTheRoomItWasMeasuredFor) {
     const std::string text = "HEntrez votre réponse grâce aux flèches puis cliquez. HHHHHHHH";
@@ -133,26 +116,6 @@ TEST(QtCanvas, PicturesFillTheirPlaceAtEveryScale) {
         EXPECT_NEAR(inked.width(), place.width(), 1);
         EXPECT_NEAR(inked.height(), place.height(), 1);
         EXPECT_EQ(sheet.At(inked.bottomRight()), qRgb(255, 0, 0));
-    }
-}
-
-TEST(QtCanvas, EnlargingKeepsFlatColoursAndGoesThroughThePixels) {
-    QImage image(5, 4, QImage::Format_ARGB32_Premultiplied);
-    image.fill(qRgba(0, 0, 0, 0));
-    for (int y = 0; y < 4; ++y) {
-        for (int x = 2; x < 5; ++x) image.setPixel(x, y, qRgba(200, 40, 0, 255));
-    }
-    const QImage enlarged = Enlarged(image, {15, 12});
-    ASSERT_EQ(enlarged.size(), QSize(15, 12));
-    for (int y = 0; y < 12; ++y) {
-        EXPECT_EQ(enlarged.pixel(1, y), qRgba(0, 0, 0, 0));
-        EXPECT_EQ(enlarged.pixel(4, y), qRgba(0, 0, 0, 0));
-        EXPECT_EQ(enlarged.pixel(7, y), qRgba(200, 40, 0, 255));
-        EXPECT_EQ(enlarged.pixel(14, y), qRgba(200, 40, 0, 255));
-        const int before = qAlpha(enlarged.pixel(5, y));
-        const int after = qAlpha(enlarged.pixel(6, y));
-        EXPECT_LT(before, after);
-        EXPECT_NEAR(before + after, 255, 1);
     }
 }
 

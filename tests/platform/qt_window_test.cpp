@@ -83,19 +83,6 @@ TEST_F(QtWindow, FillsTheScreenUntilTheOldSizeIsAskedFor) {
     EXPECT_TRUE(window.isVisible());
 }
 
-TEST_F(QtWindow, PassesClicksAndTheLookOfThePointer) {
-    Click(kOnButton);
-    EXPECT_EQ(clicks, 1);
-    QTest::mouseDClick(&window, Qt::LeftButton, {}, On(kOnButton));
-    EXPECT_EQ(clicks, 3);
-    QTest::mouseClick(&window, Qt::RightButton, {}, On(kOnButton));
-    EXPECT_EQ(clicks, 3);
-    QTest::mouseMove(&window, On(kOnButton));
-    EXPECT_EQ(window.cursor().shape(), Qt::PointingHandCursor);
-    QTest::mouseMove(&window, On(kOnPaper));
-    EXPECT_EQ(window.cursor().shape(), Qt::ArrowCursor);
-}
-
 TEST_F(QtWindow, TakesAFingerForThePointer) {
     const std::unique_ptr<QPointingDevice> finger(QTest::createTouchDevice());
     QTest::touchEvent(&window, finger.get()).press(0, On(kOnButton), &window);
@@ -113,16 +100,6 @@ TEST_F(QtWindow, StepsTheWheelByWholeNotches) {
     EXPECT_EQ(arrows.value(), 2);
 }
 
-TEST_F(QtWindow, RepeatsAHeldArrowByTimer) {
-    QTest::mousePress(&window, Qt::LeftButton, {}, On(kOnUpperHalf));
-    EXPECT_EQ(arrows.value(), 1);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return arrows.value() >= 6; }));
-    QTest::mouseRelease(&window, Qt::LeftButton, {}, On(kOnUpperHalf));
-    const int at_release = arrows.value();
-    QTest::qWait(200);
-    EXPECT_EQ(arrows.value(), at_release);
-}
-
 TEST_F(QtWindow, PaintsOnlyWhatChanged) {
     window.update();
     QTest::qWait(50);
@@ -137,12 +114,6 @@ TEST_F(QtWindow, PaintsOnlyWhatChanged) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return probe.paints == 1; }));
     QTest::qWait(200);
     EXPECT_EQ(probe.paints, 1);
-}
-
-TEST_F(QtWindow, EndsTheEventLoopWithTheProgram) {
-    button.on_click = [this] { platform.EndProgram(); };
-    EXPECT_EQ(RunUntilEnd([this] { Click(kOnButton); }), 0);
-    EXPECT_NO_THROW(window.RethrowFailure());
 }
 
 TEST_F(QtWindow, KeepsAnErrorForMain) {
