@@ -12,6 +12,7 @@ import counters
 import page as at
 from desk import Desk
 from programs import LinuxProgram, WindowsProgram, install
+from waiting import wait_until
 
 
 class Acceptance:
@@ -98,10 +99,7 @@ class Acceptance:
         self.assertFalse(self.desk.heard())
         program.page.go(at.LESSONS, at.LESSONS_SCREEN)
         # What was played is written to the end once the device is left alone.
-        end = time.monotonic() + 15
-        while not self.desk.heard() and time.monotonic() < end:
-            time.sleep(0.1)
-        self.assertTrue(self.desk.heard())
+        self.assertTrue(wait_until(self.desk.heard, 15))
 
     def test_an_end_by_force_saves_nothing(self):
         before = self.file.read_bytes()
@@ -153,14 +151,15 @@ class WindowsAcceptance(Acceptance, unittest.TestCase):
         self.assertIn("desk 640x480", program.told[-1])
 
 
-if __name__ == "__main__":
-    source = Path(sys.argv[1]).resolve()
-    case = LinuxAcceptance
-    if source.suffix == ".exe":
-        case, WindowsProgram.probe = WindowsAcceptance, Path(sys.argv[2])
-    case.source = source
-    with tempfile.TemporaryDirectory(dir=source.parent) as scratch:
-        WindowsProgram.prefix = Path(scratch, "wine")
+def main(program, *probe):
+    case = WindowsAcceptance if probe else LinuxAcceptance
+    case.source = Path(program).resolve()
+    with tempfile.TemporaryDirectory() as scratch:
+        if probe:
+            WindowsProgram.prepare(Path(scratch, "wine"), *probe)
         tests = unittest.defaultTestLoader.loadTestsFromTestCase(case)
-        done = unittest.TextTestRunner(verbosity=2).run(tests)
-    sys.exit(not done.wasSuccessful())
+        return unittest.TextTestRunner(verbosity=2).run(tests).wasSuccessful()
+
+
+if __name__ == "__main__":
+    sys.exit(not main(*sys.argv[1:]))

@@ -1,8 +1,9 @@
 """Where a pupil finds things, in pixels of the page, and which screen is seen."""
 
 import subprocess
-import time
 from pathlib import Path
+
+from waiting import wait_until
 
 WIDTH, HEIGHT = 640, 480
 
@@ -75,11 +76,10 @@ class Page:
     def back(self):
         self.go(BACK, START)
 
-    def wait_for(self, screen, seconds=20):
-        end = time.monotonic() + seconds
-        while (found := self._backgrounds.nearest(self._desk.look(self.box, Backgrounds.SIZE))) and (
-            found[0] != screen or found[1] > Backgrounds.ALIKE
-        ):
-            if time.monotonic() > end:
-                raise AssertionError(f"screen {screen} is not shown; the nearest is {found}")
-            time.sleep(0.05)
+    def wait_for(self, screen):
+        def shown():
+            self._nearest, difference = self._backgrounds.nearest(self._desk.look(self.box, Backgrounds.SIZE))
+            return self._nearest == screen and difference < Backgrounds.ALIKE
+
+        if not wait_until(shown):
+            raise AssertionError(f"screen {screen} is not shown, but rather {self._nearest}")

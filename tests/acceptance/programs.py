@@ -3,14 +3,14 @@
 import os
 import shutil
 import subprocess
-import time
 from pathlib import Path
 
 from desk import HEIGHT, WIDTH
 from page import Page
+from waiting import PATIENCE, wait_until
 
 ROOT = Path(__file__).parents[2]
-PATIENCE = 60  # seconds, for what takes one or two
+WINE = ROOT / "scripts" / "wine"
 
 
 def install(program, folder):
@@ -19,6 +19,12 @@ def install(program, folder):
     shutil.copy(program, folder)
     shutil.copytree(ROOT / "datas", folder / "datas")
     return folder / program.name
+
+
+def wine(prefix, *command):
+    """Runs a Windows program to its end."""
+    environment = {**os.environ, "WINEPREFIX": str(prefix)}
+    return subprocess.run([WINE, *map(str, command)], env=environment, timeout=PATIENCE).returncode
 
 
 class LinuxProgram:
@@ -48,11 +54,13 @@ class LinuxProgram:
 
     def report(self):
         """The report of an error, once it is put away."""
-        end = time.monotonic() + PATIENCE
-        while self._process.poll() is None and time.monotonic() < end:
+
+        def put_away():
             self._desk.move(WIDTH // 2, HEIGHT // 2)
             self._desk.press("Return")
-            time.sleep(0.2)
+            return self._process.poll() is not None
+
+        wait_until(put_away)
         self._process.kill()
         return self._process.stderr.read()
 
@@ -66,19 +74,26 @@ class WindowsProgram:
     """Runs in a desktop with a taskbar, beside a probe that tells what becomes of both."""
 
     SCALE = 1
-    probe = prefix = None
+    prefix = None
+
+    @classmethod
+    def prepare(cls, prefix, probe):
+        """Makes the Wine that all of them run in."""
+        cls.prefix = prefix
+        prefix.mkdir()
+        wine(prefix, "wineboot", "-i")
+        shutil.copy(probe, prefix / "drive_c" / "probe.exe")
 
     def __init__(self, desk, executable, **environment):
         self.page = Page(desk, self.SCALE)
         self._environment = desk.environment(WINEPREFIX=str(self.prefix), **environment)
         self._folder = executable.parent
-        shutil.copy(self.probe, self._folder)
         self.told = []
 
     def __enter__(self):
         desktop = f"/desktop=shell,{WIDTH}x{HEIGHT}"
         self._process = subprocess.Popen(
-            [ROOT / "scripts" / "wine", "explorer", desktop, "probe.exe"],
+            [WINE, "explorer", desktop, r"C:\probe.exe"],
             cwd=self._folder,
             env=self._environment,
             stdin=subprocess.PIPE,

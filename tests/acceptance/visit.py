@@ -1,4 +1,4 @@
-"""visit.py PROGRAM FOLDER: visits every screen with a real pointer and keeps a picture of each."""
+"""visit.py PROGRAM FOLDER [PROBE]: visits every screen with a real pointer and keeps a picture of each."""
 
 import sys
 import tempfile
@@ -33,11 +33,17 @@ def visit(desk, program, folder):
     program.wait()
 
 
-if __name__ == "__main__":
-    source, folder = Path(sys.argv[1]), Path(sys.argv[2])
+def main(source, folder, *probe):
+    source, folder = Path(source), Path(folder)
     folder.mkdir(parents=True, exist_ok=True)
-    kind = WindowsProgram if source.suffix == ".exe" else LinuxProgram
     with Desk() as desk, tempfile.TemporaryDirectory() as scratch:
+        if probe:
+            WindowsProgram.prepare(Path(scratch, "wine"), *probe)
+        kind = WindowsProgram if probe else LinuxProgram
         with kind(desk, install(source, Path(scratch, "Onze Tables"))) as program:
             visit(desk, program, folder)
     print(f"Pictures of all screens: {folder}/*.png")
+
+
+if __name__ == "__main__":
+    main(*sys.argv[1:])
