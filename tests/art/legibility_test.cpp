@@ -173,7 +173,7 @@ class Monkey {
 
 TEST(Legibility, EveryTextStandsOutFromWhatLiesUnderIt) {
     Monkey monkey;
-    for (int i = 0; i < 2000; ++i) monkey.ClickOnceAndLook();
+    for (int i = 0; i < 900; ++i) monkey.ClickOnceAndLook();
     for (const std::string& fault : monkey.faults()) ADD_FAILURE() << fault;
     for (const Form* form :
          {&monkey.screens().depart.form, &monkey.screens().apprendre.form, &monkey.screens().leçon.form,

@@ -1,6 +1,7 @@
 #include "platform/windows/font_book.h"
 
 #include <cwchar>
+#include <numeric>
 
 #include "platform/windows/pixels.h"
 
@@ -31,11 +32,8 @@ class Selected {
 
 }  // namespace
 
-FontBook::FontBook() : dc_(CreateCompatibleDC(nullptr)) {}
-
 FontBook::~FontBook() {
     for (const auto& [key, font] : fonts_) DeleteObject(font);
-    DeleteDC(dc_);
 }
 
 HFONT FontBook::FontFor(std::wstring_view text, const Font& font) {
@@ -50,6 +48,16 @@ SIZE FontBook::Measure(std::wstring_view line, const Font& font) {
     SIZE size{};
     GetTextExtentPoint32W(dc_, line.data(), static_cast<int>(line.size()), &size);
     return {size.cx, Metrics().tmHeight};
+}
+
+std::vector<int> FontBook::Advances(std::wstring_view line, const Font& font) {
+    const Selected selected(dc_, FontFor(line, font));
+    std::vector<int> advances(line.size());
+    SIZE size{};
+    GetTextExtentExPointW(dc_, line.data(), static_cast<int>(line.size()), 0, nullptr, advances.data(),
+                          &size);
+    std::adjacent_difference(advances.begin(), advances.end(), advances.begin());
+    return advances;
 }
 
 HFONT FontBook::Get(const Key& key) {

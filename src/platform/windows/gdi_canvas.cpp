@@ -108,7 +108,10 @@ void GdiCanvas::DrawTextLine(Point top_left, std::string_view line, const Font& 
     const HGDIOBJ former = SelectObject(dc_, fonts_.FontFor(text, font));
     SetBkMode(dc_, TRANSPARENT);
     SetTextColor(dc_, ToGdi(color));
-    TextOutW(dc_, ToPixels(top_left.x), ToPixels(top_left.y), text.data(), static_cast<int>(text.size()));
+    // Some faces are drawn wider than they are measured, unless they are told where each letter goes.
+    const std::vector<int> advances = fonts_.Advances(text, font);
+    ExtTextOutW(dc_, ToPixels(top_left.x), ToPixels(top_left.y), 0, nullptr, text.data(),
+                static_cast<UINT>(text.size()), advances.data());
     SelectObject(dc_, former);
 }
 
