@@ -33,14 +33,12 @@ class Smooth : public Gdiplus::Graphics {
     }
 };
 
-// A rounded box whose edges lie so many pixels inside the box given.
-void AddRoundedBox(Gdiplus::GraphicsPath& path, const RECT& box, REAL inset, REAL radius) {
-    const REAL left = static_cast<REAL>(box.left) + inset;
-    const REAL top = static_cast<REAL>(box.top) + inset;
-    const REAL right = static_cast<REAL>(box.right) - inset;
-    const REAL bottom = static_cast<REAL>(box.bottom) - inset;
-    const REAL turn =
-        2 * std::max(std::min({radius - inset, (right - left) / 2, (bottom - top) / 2}), REAL{0.1F});
+void AddRoundedBox(Gdiplus::GraphicsPath& path, const RECT& box, REAL radius) {
+    const REAL left = static_cast<REAL>(box.left);
+    const REAL top = static_cast<REAL>(box.top);
+    const REAL right = static_cast<REAL>(box.right);
+    const REAL bottom = static_cast<REAL>(box.bottom);
+    const REAL turn = std::max(std::min({2 * radius, right - left, bottom - top}), REAL{0.1F});
     path.AddArc(left, top, turn, turn, 180, 90);
     path.AddArc(right - turn, top, turn, turn, 270, 90);
     path.AddArc(right - turn, bottom - turn, turn, turn, 0, 90);
@@ -68,7 +66,7 @@ void GdiCanvas::FillBox(const Rect& box, Color color, int radius) {
         return;
     }
     Gdiplus::GraphicsPath path;
-    AddRoundedBox(path, pixels, 0, Exact(radius));
+    AddRoundedBox(path, pixels, Exact(radius));
     const Gdiplus::SolidBrush brush(ToGdiPlus(color));
     Smooth(dc_).FillPath(&brush, &path);
 }
@@ -79,10 +77,13 @@ void GdiCanvas::FrameBox(const Rect& box, Color color, int radius) {
         FrameRect(dc_, &pixels, Brush(color));
         return;
     }
+    // What lies between two boxes is filled.
+    const RECT inside{pixels.left + 1, pixels.top + 1, pixels.right - 1, pixels.bottom - 1};
     Gdiplus::GraphicsPath path;
-    AddRoundedBox(path, pixels, 0.5F, Exact(radius));
-    const Gdiplus::Pen pen(ToGdiPlus(color));
-    Smooth(dc_).DrawPath(&pen, &path);
+    AddRoundedBox(path, pixels, Exact(radius));
+    AddRoundedBox(path, inside, Exact(radius - 1_px));
+    const Gdiplus::SolidBrush brush(ToGdiPlus(color));
+    Smooth(dc_).FillPath(&brush, &path);
 }
 
 void GdiCanvas::FillPolygon(std::span<const Point> corners, Color color) {

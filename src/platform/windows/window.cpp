@@ -8,12 +8,12 @@
 
 #include "platform/windows/gdi_canvas.h"
 #include "platform/windows/pixels.h"
-#include "platform/windows/resources.h"
 
 namespace {
 
 constexpr const wchar_t* kClass = L"OnzeTables";
 constexpr const wchar_t* kTitle = L"Onze Tables";
+constexpr int kIcon = 1;  // its number in the resources
 constexpr int kWidth = kPageWidth / kTwipsPerPixel;
 constexpr int kHeight = kPageHeight / kTwipsPerPixel;
 constexpr std::int64_t kShortWaitMs = 200;
@@ -41,8 +41,8 @@ void RegisterOnce(WNDPROC procedure) {
     window_class.lpfnWndProc = procedure;
     window_class.hInstance = program;
     window_class.lpszClassName = kClass;
-    window_class.hIcon = LoadIconW(program, MAKEINTRESOURCEW(kProgramIcon));
-    window_class.hIconSm = static_cast<HICON>(LoadImageW(program, MAKEINTRESOURCEW(kProgramIcon), IMAGE_ICON,
+    window_class.hIcon = LoadIconW(program, MAKEINTRESOURCEW(kIcon));
+    window_class.hIconSm = static_cast<HICON>(LoadImageW(program, MAKEINTRESOURCEW(kIcon), IMAGE_ICON,
                                                          GetSystemMetrics(SM_CXSMICON),
                                                          GetSystemMetrics(SM_CYSMICON), LR_SHARED));
     RegisterClassExW(&window_class);

@@ -1,4 +1,0 @@
-#pragma once
-
-// Numbers of what the program carries in its resources.
-#define kProgramIcon 1
