@@ -104,9 +104,10 @@ class WindowsProgram:
         return self
 
     def __exit__(self, *_):
+        # All of them at once: whichever is left would keep the pipe open.
+        subprocess.run(["wineserver", "-k"], env=self._environment)
         self._process.kill()
         self._process.communicate()
-        subprocess.run(["wineserver", "-k"], env=self._environment)
 
     def wait(self):
         """The exit status; all that happened to the desktop has been told by then."""
