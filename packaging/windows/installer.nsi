@@ -23,6 +23,7 @@ VIAddVersionKey "LegalCopyright" "Licence MIT"
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "side.bmp"
 !define MUI_FINISHPAGE_RUN "$INSTDIR\onze-tables.exe"
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
