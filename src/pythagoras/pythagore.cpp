@@ -52,8 +52,7 @@ constexpr auto kHowTo =
     "nombres entre eux.";
 constexpr auto kExample =
     "Par exemple, pour multiplier 8 par 7, on sélectionne le 8 dans la colonne verticale, le 7 dans la "
-    "rangée "
-    "horizontale et à leur croisement on obtient le résultat cherché : 56.";
+    "rangée horizontale et à leur croisement on obtient le résultat cherché : 56.";
 constexpr auto kInvitation = "Faites vos propres essais en cliquant sur les nombres en rouge dans la table";
 
 }  // namespace
