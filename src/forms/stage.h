@@ -29,7 +29,7 @@ class Stage {
     // Whether a click at this point would do something, for the pointer's looks.
     bool ReactsToClickAt(Point point) const;
 
-    // The tick at which Run() has something to do, if any.
+    // The tick at which RunDue() has something to do, if any.
     std::optional<std::int64_t> NextDue() const;
     // Runs each timer that is due, once.
     void RunDue();

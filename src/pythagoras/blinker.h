@@ -5,8 +5,8 @@
 
 #include "forms/timer.h"
 
-// Blinks ten times, whether its screen is shown or not: on_flash, and 50 ms later on_dark, ten times 150 ms
-// apart, then on_end. A blink that begins while others run goes first: it runs to its end, then the one
+// Blinks ten times, whether its screen is shown or not: on_flash, 50 ms later on_dark, then 150 ms of dark;
+// at the end on_end. A blink that begins while others run goes first: it runs to its end, then the one
 // before it goes on at once with what it had left.
 class Blinker {
   public:
