@@ -16,6 +16,7 @@ class Program {
 
     Stage& stage() { return stage_; }
     const Stage& stage() const { return stage_; }
+    const Counters& counters() const { return record_.counters; }
     Screens& screens() { return screens_; }
 
   private:

@@ -1,0 +1,174 @@
+#include "support/monkey.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <iostream>
+#include <optional>
+
+#include "forms/label.h"
+#include "forms/up_down.h"
+#include "shell/program.h"
+#include "support/headless_platform.h"
+
+namespace {
+
+// What an exercise shows while it is answered, and what it shows once it is over.
+struct Exercise {
+    std::vector<const UpDown*> arrows;
+    const Label& over;
+};
+
+std::vector<Exercise> Exercises(const Apprendre& screen) {
+    return {{{&screen.factoring.ui.fleche}, screen.factoring.ui.encore_un},
+            {{&screen.multiple.ui.fleche2, &screen.multiple.ui.fleche3}, screen.multiple.ui.encore_deux},
+            {{&screen.letter_code.ui.fleche4}, screen.letter_code.ui.encore_trois},
+            {{&screen.missing_sign.ui.fleche5}, screen.missing_sign.ui.encore_quatre}};
+}
+
+std::vector<Exercise> Exercises(const Exercices& screen) {
+    return {
+        {{&screen.membership.ui.flech1}, screen.membership.ui.encor_un},
+        {{&screen.product.ui.flech2}, screen.product.ui.encor_deux},
+        {{&screen.factor_pair.ui.flech3, &screen.factor_pair.ui.flech4}, screen.factor_pair.ui.encor_trois},
+        {{&screen.missing_factor.ui.flech5}, screen.missing_factor.ui.encor_quatre},
+        {{&screen.factored_sum.ui.flech6, &screen.factored_sum.ui.flech7}, screen.factored_sum.ui.encor_cinq},
+        {{&screen.note_factor.ui.flech8}, screen.note_factor.ui.encor_six}};
+}
+
+// Letters, figures and marks of French and of sums; no number is broken or below zero.
+bool IsExpected(const std::string& text) {
+    static const std::string kAccented = "àâçèéêîôùûÉ";
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto c = static_cast<unsigned char>(text[i]);
+        const bool number_next = i + 1 < text.size() && std::isdigit(static_cast<unsigned char>(text[i + 1]));
+        if (c >= 0x80) {
+            if (kAccented.find(text.substr(i++, 2)) % 2 != 0) return false;
+        } else if (!std::isalnum(c) && std::string("\r !'(),-+./:=>?").find(text[i]) == std::string::npos) {
+            return false;
+        } else if ((c == '.' || c == '-') && number_next) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool Fits(const Label& label) {
+    const TextLayout layout = label.Layout();
+    const Rect room = label.box().Grown(label.style().overhang);
+    return layout.Width() <= room.width && layout.Height() <= room.height && layout.font.height >= 6.0_pt;
+}
+
+std::vector<int> Values(const Counters& counters) {
+    std::vector<int> values{counters.PuzzleCount,
+                            counters.PuzzleRight,
+                            counters.PuzzleWrong,
+                            counters.LessonConsultations.value(),
+                            counters.PythagoreConsultations.value(),
+                            counters.PythagoreSolves.value()};
+    for (const auto* table : {&counters.TableConsultations, &counters.TableExercises, &counters.TableRight,
+                              &counters.TableWrong}) {
+        values.insert(values.end(), table->begin(), table->end());
+    }
+    return values;
+}
+
+// A program that is started anew each time it was left.
+class Desktop {
+  public:
+    explicit Desktop(unsigned seed)
+        : random_(seed + 1), monkey_(seed, [this](Stage& stage, int time) { Wait(stage, time); }) {
+        Start();
+    }
+
+    void Act() {
+        monkey_.Act(program_->stage());
+        Check();
+        const bool left = !platform_.calls.empty() && platform_.calls.back() == "end";
+        platform_.calls.clear();
+        if (left) Start();
+    }
+
+  private:
+    void Start() {
+        program_.emplace(platform_, random_);
+        program_->Load();
+        platform_.calls.clear();
+        const std::vector<int> loaded = Values(program_->counters());
+        ASSERT_TRUE(values_.empty() || loaded == values_) << "counts are lost";
+    }
+
+    void Wait(Stage& stage, int time) {
+        const std::int64_t end = platform_.now + time;
+        while (platform_.now < end) {
+            platform_.now = std::max(platform_.now, std::min(end, stage.NextDue().value_or(end)));
+            stage.RunDue();
+        }
+    }
+
+    void Check() {
+        const Screens& screens = program_->screens();
+        const Form* const forms[] = {&screens.depart.form,    &screens.apprendre.form, &screens.leçon.form,
+                                     &screens.pythagore.form, &screens.exercices.form, &screens.bilan.form,
+                                     &screens.divers.form};
+        ASSERT_EQ(std::ranges::count_if(forms, &Form::visible), 1);
+        if (screens.apprendre.form.visible()) CheckExercises(Exercises(screens.apprendre));
+        if (screens.exercices.form.visible()) CheckExercises(Exercises(screens.exercices));
+        CheckTexts();
+        CheckCounters();
+    }
+
+    static void CheckExercises(const std::vector<Exercise>& exercises) {
+        for (const Exercise& exercise : exercises) {
+            ASSERT_FALSE(exercise.over.visible() && std::ranges::any_of(exercise.arrows, &UpDown::visible));
+        }
+    }
+
+    void CheckTexts() const {
+        for (const Control* control : program_->stage().front()->controls()) {
+            const auto* label = dynamic_cast<const Label*>(control);
+            if (!label || !label->visible()) continue;
+            ASSERT_TRUE(Fits(*label)) << label->caption();
+            ASSERT_TRUE(IsExpected(label->caption())) << label->caption();
+        }
+    }
+
+    void CheckCounters() {
+        const Counters& counters = program_->counters();
+        for (std::size_t i = 0; i < counters.TableExercises.size(); ++i) {
+            ASSERT_EQ(counters.TableExercises[i], counters.TableRight[i] + counters.TableWrong[i])
+                << "table " << i + 2;
+        }
+        ASSERT_EQ(counters.PuzzleCount, counters.PuzzleRight + counters.PuzzleWrong);
+        std::vector<int> values = Values(counters);
+        ASSERT_TRUE(values_.empty() || std::ranges::equal(values_, values, std::less_equal()))
+            << "a counter fell";
+        values_ = std::move(values);
+    }
+
+    HeadlessPlatform platform_;
+    SeededRandom random_;
+    std::optional<Program> program_;
+    Monkey monkey_;
+    std::vector<int> values_;
+};
+
+unsigned FromEnvironment(const char* name, unsigned otherwise) {
+    const char* value = std::getenv(name);
+    return value ? static_cast<unsigned>(std::stoul(value)) : otherwise;
+}
+
+// ONZE_MONKEY_SEED repeats a run, ONZE_MONKEY_ACTIONS makes a longer one.
+TEST(Monkey, NothingThatAChildDoesBreaksTheRules) {
+    const unsigned seed = FromEnvironment("ONZE_MONKEY_SEED", std::random_device{}());
+    const unsigned actions = FromEnvironment("ONZE_MONKEY_ACTIONS", 100'000);
+    std::cout << "ONZE_MONKEY_SEED=" << seed << std::endl;
+    Desktop desktop(seed);
+    for (unsigned i = 1; i <= actions && !HasFatalFailure(); ++i) {
+        SCOPED_TRACE("action " + std::to_string(i) + " of seed " + std::to_string(seed));
+        desktop.Act();
+    }
+}
+
+}  // namespace

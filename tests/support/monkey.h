@@ -1,0 +1,37 @@
+#pragma once
+
+#include <functional>
+#include <random>
+
+#include "forms/stage.h"
+#include "support/random.h"
+
+// Draws that are the same at each run of a test.
+class SeededRandom final : public Random {
+  public:
+    explicit SeededRandom(unsigned seed) : engine_(seed) {}
+
+    void Randomize() override {}
+    int Draw(int bound) override { return std::uniform_int_distribution<int>(0, bound - 1)(engine_); }
+
+  private:
+    std::mt19937 engine_;
+};
+
+// A child that does anything at all with the pointer: clicks here and there, holds, drags, turns the wheel,
+// lets time pass (wait lets that many milliseconds go by).
+class Monkey {
+  public:
+    Monkey(unsigned seed, std::function<void(Stage&, int)> wait) : random_(seed), wait_(std::move(wait)) {}
+
+    void Act(Stage& stage);
+
+  private:
+    Point Anywhere();
+    Point OnSomething(const Stage& stage);
+    void Hold(Stage& stage);
+
+    SeededRandom random_;
+    std::function<void(Stage&, int)> wait_;
+    Point at_;
+};
