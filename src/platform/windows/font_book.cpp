@@ -73,7 +73,7 @@ HFONT FontBook::Make(const Key& key) {
     wanted.lfHeight = -pixels;
     wanted.lfWeight = bold ? FW_BOLD : FW_NORMAL;
     wanted.lfCharSet = bitmap ? ANSI_CHARSET : DEFAULT_CHARSET;
-    wanted.lfQuality = ANTIALIASED_QUALITY;
+    wanted.lfQuality = bitmap ? NONANTIALIASED_QUALITY : ANTIALIASED_QUALITY;
     wanted.lfPitchAndFamily = VARIABLE_PITCH | FF_SWISS;
     std::wcscpy(wanted.lfFaceName, bitmap ? L"MS Sans Serif" : L"Microsoft Sans Serif");
     const HFONT font = CreateFontIndirectW(&wanted);
