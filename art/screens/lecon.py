@@ -80,11 +80,11 @@ def result_of_eleven():
 
 
 NOTES = (
-    (box(4, 57, 193, 87), LEAF), (box(301, 68, 281, 73), CORAL), (box(77, 261, 299, 58), PLUM), (box(497, 229, 152, 65), SUN),
+    (box(4, 57, 193, 87), LEAF), (box(301, 68, 281, 73), CORAL), (box(77, 261, 299, 58), PLUM), (box(497, 229, 141, 65), SUN),
     (box(53, 383, 482, 61), CORAL), (box(6, 452, 524, 22), TEAL),
     # The first and the third reminder meet; so do the worked example and its text.
     ("M50 153H612a7 7 0 0 1 7 7V203a7 7 0 0 1 -7 7H298V247a7 7 0 0 1 -7 7H50a7 7 0 0 1 -7 -7V160a7 7 0 0 1 7 -7Z", SEA),
-    ("M387 307H626a7 7 0 0 1 7 7V360a7 7 0 0 1 -7 7H594V431a7 7 0 0 1 -7 7H546a7 7 0 0 1 -7 -7V367H387"
+    ("M382 307H626a7 7 0 0 1 7 7V360a7 7 0 0 1 -7 7H594V431a7 7 0 0 1 -7 7H546a7 7 0 0 1 -7 -7V367H382"
      "a7 7 0 0 1 -7 -7V314a7 7 0 0 1 7 -7Z", PLUM),
 )
 

@@ -104,5 +104,5 @@ def draw():
     return page("".join([
         rect(0, 0, 640, 480, fill=PAPER), sea(), boat(520, 64),
         pediment(), grid(), theorem(), teacher(), meander(372, 6, 634),
-        plate(177, 447, 252, 25),
+        plate(177, 450, 252, 27),
     ]))
