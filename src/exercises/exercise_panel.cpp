@@ -2,6 +2,10 @@
 
 #include "support/number_text.h"
 
+std::string TimesText(int second, int product) {
+    return "X" + Str(second) + " =" + Str(product);
+}
+
 void ExercisePanel::Link(UpDown& arrow, Label& answer) {
     arrow.on_change = [this, &arrow, &answer] {
         sounds().PlayClickSound();

@@ -24,7 +24,7 @@ inline LabelStyle Answer(Margins outset) {
             .frame = Color{110, 140, 195},
             .radius = 3_px,
             .outset = outset,
-            .overhang = {outset.left - 1_px, 0}};
+            .overhang = {outset.left - 1_px, 0, outset.right - 1_px, 0}};
 }
 
 // One "Continuer" stands right below the corner of an answer, hence so little around a button.
@@ -49,6 +49,9 @@ inline const std::string kRightGoOn =
     "C'est juste ! Entrez votre réponse grâce aux flèches\r"
     "puis cliquez sur cette réponse pour la correction.";
 inline const std::string kSolved = "Bravo ! Vous avez trouvé la solution !" + kContinueLine;
+
+// A product whose first factor is asked, in an answer that stands before this text.
+std::string TimesText(int second, int product);
 
 class ExercisePanel {
   protected:

@@ -71,7 +71,7 @@ void FactorPairPanel::AskForSecondFactor() {
     ui.chiffre5.SetCaption(kUnanswered);
     ui.chiffre5.SetLeft(ui.enonce3.box().right() + 3_px);
     ui.chiffre5.Show();
-    ui.flech4.SetLeft(ui.chiffre5.box().left - kArrowLead);
+    ui.flech4.SetLeft(ui.chiffre5.box().left - 8_px);
     ui.flech4.Show();
     ui.chiffre4.Hide();
 }

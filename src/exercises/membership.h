@@ -42,7 +42,7 @@ class MembershipPanel : private ExercisePanel {
         Label oui       { form, { 2940, 4515,  675, 255 }, "OUI",        kExerciseButton };
         Label non       { form, { 3870, 4515,  675, 255 }, "NON",        kExerciseButton };
         Label lab       { form, { 3645, 4545,  120, 195 }, "",           AutoSized(kExerciseLine, AutoSize::kKeepRight) };
-        Label chiffre2  { form, { 3765, 4545,  285, 195 }, kUnanswered,  Answer({0, 3_px}) };
+        Label chiffre2  { form, { 3765, 4545,  240, 195 }, kUnanswered,  Answer({0, 3_px, 3_px, 3_px}) };
         Label lab2      { form, { 4050, 4545,  600, 195 }, "",           kExerciseLine };
         Label enonce1   { form, { 4890, 3885, 4530, 600 }, "Cliquez sur OUI ou NON pour répondre", kExerciseMessage };
         Label encor_un  { form, { 4890, 4665,  990, 240 }, "Continuer",  kExerciseButton };

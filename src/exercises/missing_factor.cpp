@@ -9,7 +9,7 @@ MissingFactorQuestion MissingFactorQuestion::Draw(Random& random) {
 }
 
 std::string MissingFactorQuestion::Text() const {
-    return "X" + Str(second) + " =" + Str(second * MissingFactor);
+    return TimesText(second, second * MissingFactor);
 }
 
 std::string MissingFactorQuestion::Correction(bool right) const {
@@ -32,6 +32,7 @@ void MissingFactorPanel::NewMissingFactorExercise() {
     ui.enonce4.SetCaption(question_.Text());
 }
 
+// A right answer is counted after its message, a wrong one before its sound.
 void MissingFactorPanel::chiffre6_Click() {
     if (!AnswerGuard(ui.chiffre6, ui.encor_quatre)) return;
     const bool right = Val(ui.chiffre6.caption()) == question_.MissingFactor;

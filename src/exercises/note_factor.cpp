@@ -16,7 +16,7 @@ const std::string& NoteFactorQuestion::NoteOf(int factor) {
 }
 
 std::string NoteFactorQuestion::Text() const {
-    return "X" + Str(second) + " =" + Str(second * NoteFactor);
+    return TimesText(second, second * NoteFactor);
 }
 
 std::string NoteFactorQuestion::Explanation(const std::string& note) const {
@@ -47,7 +47,8 @@ void NoteFactorPanel::flech8_Change() {
     ui.chiffre9.SetCaption(NoteFactorQuestion::NoteOf(ui.flech8.value() + NoteFactorQuestion::kFirstNote));
 }
 
-// The note first shown is an answer too, so only "Continuer" guards this click.
+// The note first shown is an answer too, so only "Continuer" guards this click. A right answer is
+// counted last, a wrong one first.
 void NoteFactorPanel::chiffre9_Click() {
     if (ui.encor_six.visible()) return;
     ui.flech8.Hide();

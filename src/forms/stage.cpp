@@ -1,6 +1,7 @@
 #include "forms/stage.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "forms/platform.h"
 #include "forms/up_down.h"

@@ -43,8 +43,7 @@ constexpr auto kDigitTimesEleven =
     "6 X 11 = 66";
 constexpr auto kTwoDigitsTimesEleven =
     "Si l'on doit MULTIPLIER un nombre (de 10 à 99) par 11, on additionne les 2 chiffres formant ce nombre "
-    "et "
-    "on place le résultat entre ces chiffres (on reporte une éventuelle retenue sur le premier chiffre) : "
+    "et on place le résultat entre ces chiffres (on reporte une éventuelle retenue sur le premier chiffre) : "
     "26 X 11 --> 2 + 6 = 8 que l'on place entre le 2 et le 6  --> 286.  Autre exemple avec une retenue : "
     "57 X 11 --> 5 + 7 = 12, on place le 2 entre le 5 et le 7 et on ajoute 1 (la retenue) à 5 --> 627.";
 constexpr auto kLongMultiplication =

@@ -19,13 +19,15 @@ void Blinker::Begin() {
 
 void Blinker::timer_Timer() {
     Blink& blink = blinks_.back();
-    if (!blink.lit) {
-        blink.flashes_left > 0 ? Flash() : End();
-        return;
+    if (blink.lit) {
+        blink.lit = false;
+        on_dark();
+        timer_.Start(kDarkMs);
+    } else if (blink.flashes_left > 0) {
+        Flash();
+    } else {
+        End();
     }
-    blink.lit = false;
-    on_dark();
-    timer_.Start(kDarkMs);
 }
 
 void Blinker::Flash() {

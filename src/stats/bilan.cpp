@@ -42,8 +42,8 @@ Bilan::Bilan(Stage& stage, SharedState& shared, Form& depart)
       n_exo  { form, { 570_px, 302_px,  63_px,  28_px }, "", kValue },
       n_exoj { form, { 570_px, 334_px,  63_px,  28_px }, "", kValue },
       n_exof { form, { 570_px, 366_px,  63_px,  28_px }, "", kValue },
-      pour_lecons   { form, { 213_px,  74_px, 416_px,  17_px }, "", kSentence },
-      pour_pythagore{ form, { 149_px, 108_px, 481_px,  33_px }, "", kSentence },
+      pour_lecons   { form, { 213_px,  74_px, 416_px,  17_px }, "hjkh",  kSentence },
+      pour_pythagore{ form, { 149_px, 108_px, 481_px,  33_px }, "fjgfj", kSentence },
       retour        { form, { 552_px, 459_px,  76_px,  17_px }, "RETOUR", kButton },
       shared_(shared) {
     // clang-format on

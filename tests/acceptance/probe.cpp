@@ -1,5 +1,6 @@
-// Starts the program in the desktop that this runs in, and tells line by line what becomes of the taskbar and of the
-// desktop's size, what the program reports, and how it ends. A line on the standard input kills the program.
+// Starts the program in the desktop that this runs in, and tells line by line what becomes of the taskbar and
+// of the desktop's size, what the program reports, and how it ends. A line on the standard input kills the
+// program.
 #include <windows.h>
 
 #include <cstdio>
@@ -19,7 +20,8 @@ struct Desk {
 
 Desk Look() {
     const HWND taskbar = FindWindowA("Shell_TrayWnd", nullptr);
-    return {taskbar && IsWindowVisible(taskbar), GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+    return {taskbar && IsWindowVisible(taskbar), GetSystemMetrics(SM_CXSCREEN),
+            GetSystemMetrics(SM_CYSCREEN)};
 }
 
 // The desk as it was at one moment: a look that finds it changing is taken again.
@@ -53,7 +55,8 @@ BOOL CALLBACK TellText(HWND control, LPARAM) {
     wchar_t text[1024] = L"";
     wchar_t name[16] = L"";
     GetClassNameW(control, name, 16);
-    if (lstrcmpiW(name, L"Static") == 0 && GetWindowTextW(control, text, 1024) > 0) Tell("report " + Utf8(text));
+    if (lstrcmpiW(name, L"Static") == 0 && GetWindowTextW(control, text, 1024) > 0)
+        Tell("report " + Utf8(text));
     return TRUE;
 }
 
@@ -80,7 +83,8 @@ int main() {
     startup.cb = sizeof startup;
     PROCESS_INFORMATION program{};
     wchar_t command[] = L"onze-tables.exe";
-    if (!CreateProcessW(nullptr, command, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &program)) return 1;
+    if (!CreateProcessW(nullptr, command, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &program))
+        return 1;
     std::thread([&program] {
         if (std::string line; std::getline(std::cin, line)) TerminateProcess(program.hProcess, 99);
     }).detach();

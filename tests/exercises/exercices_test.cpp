@@ -126,8 +126,7 @@ TEST(Exercices, EveryShowingAsksSixFreshQuestions) {
         "Entrez votre réponse grâce aux flèches puis\rcliquez sur cette réponse pour la correction.",
         "Entrez vos réponses grâce aux flèches puis cliquez sur ces réponses pour la correction.",
         "Sachant que DO=3, RE=4 ... LA=8, SI=9, entrez votre réponse grâce aux flèches puis cliquez sur "
-        "cette "
-        "réponse pour la correction."};
+        "cette réponse pour la correction."};
     const std::vector<Area> areas = Areas(pupil.screen);
     for (std::size_t i = 0; i < 6; ++i) {
         EXPECT_EQ(areas[i].message.caption(), instructions[i]);
