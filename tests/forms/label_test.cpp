@@ -16,19 +16,13 @@ struct PaintedLine {
     friend bool operator==(const PaintedLine&, const PaintedLine&) = default;
 };
 
-class PlaceCanvas final : public Canvas {
+class PlaceCanvas final : public TextCanvas {
   public:
-    void DrawPicture(const Picture&, Point) override {}
-    void FillBox(const Rect& box, Color, int) override { boxes.push_back(box); }
-    void FrameBox(const Rect& box, Color, int) override { boxes.push_back(box); }
-    void FillPolygon(std::span<const Point>, Color) override {}
-    void DrawLine(Point, Point, int, Color) override {}
     void DrawTextLine(Point at, std::string_view line, const Font& font, Color) override {
         lines.push_back({at, std::string(line), font.height});
     }
 
     std::vector<PaintedLine> lines;
-    std::vector<Rect> boxes;
 };
 
 // In the tests a letter is half as wide as the font is high, and a line 6/5 as high.

@@ -60,16 +60,14 @@ bool Fits(const Label& label) {
     return layout.Width() <= room.width && layout.Height() <= room.height && layout.font.height >= 6.0_pt;
 }
 
+// All of them, in the order of their file.
 std::vector<int> Values(const Counters& counters) {
-    std::vector<int> values{counters.PuzzleCount,
-                            counters.PuzzleRight,
-                            counters.PuzzleWrong,
-                            counters.LessonConsultations.value(),
-                            counters.PythagoreConsultations.value(),
-                            counters.PythagoreSolves.value()};
-    for (const auto* table : {&counters.TableConsultations, &counters.TableExercises, &counters.TableRight,
-                              &counters.TableWrong}) {
-        values.insert(values.end(), table->begin(), table->end());
+    UsageRecord record;
+    record.counters = counters;
+    const std::vector<std::byte> bytes = ToBytes(record);
+    std::vector<int> values;
+    for (std::size_t i = 0; i < bytes.size(); i += 2) {
+        values.push_back(std::to_integer<int>(bytes[i]) | std::to_integer<int>(bytes[i + 1]) << 8);
     }
     return values;
 }

@@ -5,7 +5,6 @@
 #include <random>
 #include <sstream>
 
-#include "support/picture_header.h"
 #include "support/run_time_error.h"
 
 namespace {
@@ -24,8 +23,18 @@ std::string ReadWhole(const std::filesystem::path& file) {
     return bytes.str();
 }
 
-// The shortest file that counts as a picture of 640 x 480.
-constexpr std::string_view kPagePicture("GIF89a\x80\x02\xe0\x01;", 11);
+// Of a PNG file this platform reads the size alone, which stands behind the mark and a name.
+constexpr std::size_t kMark = 16;
+constexpr std::string_view kPagePicture("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\2\x80\0\0\1\xe0", 24);
+
+PicturePtr ReadPicture(const std::string& source, std::string_view bytes) {
+    if (bytes.size() < kPagePicture.size() || !bytes.starts_with(kPagePicture.substr(0, kMark)))
+        return nullptr;
+    const auto two_bytes = [bytes](std::size_t at) {
+        return static_cast<std::uint8_t>(bytes[at]) << 8 | static_cast<std::uint8_t>(bytes[at + 1]);
+    };
+    return std::make_shared<HeadlessPicture>(source, 0, 0, two_bytes(18), two_bytes(22));
+}
 
 }  // namespace
 
@@ -41,17 +50,16 @@ HeadlessPlatform::~HeadlessPlatform() {
 }
 
 PicturePtr HeadlessPlatform::LoadPicture(const std::filesystem::path& file) {
-    const std::string bytes = ReadWhole(file);
-    const auto size = ReadPictureHeader(std::as_bytes(std::span(bytes)));
-    if (!size) throw FileError("Image introuvable ou illisible", file);
+    PicturePtr picture = ReadPicture(file.filename().string(), ReadWhole(file));
+    if (!picture) throw FileError("Image introuvable ou illisible", file);
     calls.push_back("load " + file.filename().string());
-    return std::make_shared<HeadlessPicture>(file.filename().string(), 0, 0, size->width, size->height);
+    return picture;
 }
 
 PicturePtr HeadlessPlatform::LoadPicture(std::span<const std::byte> bytes) {
-    const auto size = ReadPictureHeader(bytes);
-    if (!size) throw RunTimeError("Image illisible.");
-    return std::make_shared<HeadlessPicture>("memory", 0, 0, size->width, size->height);
+    PicturePtr picture = ReadPicture("memory", {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+    if (!picture) throw RunTimeError("Image illisible.");
+    return picture;
 }
 
 PicturePtr HeadlessPlatform::ClipPicture(const PicturePtr& picture, int x, int y, int width, int height) {
