@@ -1,7 +1,5 @@
 #include "exercises/exercices.h"
 
-#include <algorithm>
-
 #include "exercises/exerciser.h"
 #include "support/run_time_error.h"
 
@@ -229,58 +227,6 @@ TEST(Exercices, FullCounterStopsTheRunAtItsPoint) {
         EXPECT_EQ(DoneBefore(&Counters::PuzzleCount, "PuzzleCount", i, true), cases[i].full_count_right);
         EXPECT_EQ(DoneBefore(&Counters::PuzzleCount, "PuzzleCount", i, false), cases[i].full_count_wrong);
     }
-}
-
-// Every control keeps to an area, none covers another, and every text can be read.
-void ExpectLegible(const Exercices& screen) {
-    const std::vector<Area> areas = Areas(screen);
-    std::vector<const Control*> visible;
-    for (const Control* control : screen.form.controls()) {
-        if (!control->visible()) continue;
-        const auto* label = dynamic_cast<const Label*>(control);
-        SCOPED_TRACE(label ? label->caption() : "");
-        for (const Control* other : visible) EXPECT_FALSE(control->Painted().Meets(other->Painted()));
-        visible.push_back(control);
-        if (label) {
-            EXPECT_LE(label->Layout().Width(), control->Painted().width);
-            EXPECT_GE(label->Layout().font.height, 7.0_pt);
-        }
-        if (dynamic_cast<const Line*>(control) || control == &screen.fin) continue;
-        EXPECT_TRUE(std::ranges::any_of(areas, [&](const Area& area) { return area.Holds(*control); }));
-    }
-}
-
-TEST(Exercices, NothingOverlapsAtTheLongestTexts) {
-    const SixDraws longest{{kReseed, {12, 11}, {11, 10}, {11, 10}},
-                           {{11, 10}, {11, 10}},
-                           {{10, 9}, {10, 8}},
-                           {{10, 9}, {10, 9}},
-                           {kReseed, kReseed, {2, 0}, {9, 8}, {12, 11}, {12, 11}},
-                           {{7, 4}, {12, 11}}};
-    Exerciser pupil(longest);
-    const Exercices& screen = pupil.screen;
-    ExpectLegible(screen);
-    pupil.Click(screen.membership.ui.oui);
-    pupil.Enter(screen.factor_pair.ui.flech3, 12);
-    pupil.Click(screen.factor_pair.ui.chiffre4);
-    for (const Control* control : screen.form.controls()) {
-        const auto* arrow = dynamic_cast<const UpDown*>(control);
-        if (arrow && arrow->visible()) pupil.Step(*arrow, 200);
-    }
-    pupil.Turn(screen.note_factor.ui.flech8, 4);
-    ExpectLegible(screen);
-    for (const Area& area : Areas(screen)) {
-        pupil.Click(*area.right.back().clicked);
-        EXPECT_TRUE(area.encor.visible());
-    }
-    ExpectLegible(screen);
-
-    Exerciser other(
-        {.membership = {kReseed, {12, 11}, {11, 10}, {11, 9}}, .factor_pair = longest.factor_pair});
-    other.Click(other.screen.membership.ui.oui);
-    other.Enter(other.screen.factor_pair.ui.flech3, 10);
-    other.Click(other.screen.factor_pair.ui.chiffre4);
-    ExpectLegible(other.screen);
 }
 
 }  // namespace

@@ -69,13 +69,6 @@ TEST_F(StageTest, HiddenAndDisabledControlsLetThePointerThrough) {
     EXPECT_FALSE(stage.ReactsToClickAt(kOnButton));
 }
 
-TEST_F(StageTest, PressOnAControlThatHidesItselfMeanwhileIsNoClick) {
-    stage.Press(kOnButton);
-    button.Hide();
-    stage.Release(kOnButton);
-    EXPECT_EQ(clicks, 0);
-}
-
 TEST_F(StageTest, MoveReachesTheTopControlOrThePage) {
     std::string moved;
     form.on_move = [&moved] { moved += "page "; };
@@ -160,20 +153,6 @@ TEST_F(StageTest, DamageIsWhatChangedOnThePageShown) {
     EXPECT_TRUE(stage.TakeDamage().empty());
     other.Show();
     EXPECT_EQ(stage.TakeDamage(), (Rect{0, 0, kPageWidth, kPageHeight}));
-}
-
-TEST_F(StageTest, ShowingActivatesAndPutsOnTop) {
-    Form other(stage);
-    int activations = 0;
-    other.on_activate = [&activations] { ++activations; };
-    other.Show();
-    EXPECT_EQ(stage.front(), &other);
-    form.Hide();
-    other.Hide();
-    EXPECT_EQ(stage.front(), nullptr);
-    other.Show();
-    EXPECT_EQ(activations, 2);
-    EXPECT_FALSE(form.visible());
 }
 
 TEST_F(StageTest, TimersRunWhenDueAndOnlyThen) {

@@ -6,21 +6,6 @@
 
 namespace {
 
-TEST(Leçon, EachOpeningIsCounted) {
-    Pupil pupil;
-    for (int opening = 1; opening <= 2; ++opening) {
-        pupil.Click(opening == 1 ? static_cast<Control&>(pupil.screens.depart.Label2)
-                                 : pupil.screens.depart.apprendre_leçon);
-        EXPECT_TRUE(pupil.Sees(pupil.screens.leçon.form));
-        EXPECT_EQ(pupil.Heard(), Names{"5"});
-        pupil.Tap(pupil.screens.leçon.l5);
-        pupil.Click(pupil.screens.leçon.retour);
-        EXPECT_TRUE(pupil.Sees(pupil.screens.depart.form));
-        EXPECT_EQ(pupil.Heard(), Names{"3"});
-    }
-    EXPECT_EQ(pupil.Quit().LessonConsultations, TaggedNumber::Integer(2));
-}
-
 TEST(Leçon, EveryReminderIsReadableInItsBoxAndTrue) {
     Pupil pupil;
     Leçon& page = pupil.screens.leçon;

