@@ -7,16 +7,24 @@
 
 namespace {
 
-// A blank before such a mark is no place for a break.
-bool IsMark(std::string_view word) {
-    return word == "?" || word == "!" || word == ":";
+// A mark stays with the word before it, and a product in one piece.
+bool StayTogether(std::string_view word, std::string_view next) {
+    return next == "?" || next == "!" || next == ":" || next == "X" || word == "X";
 }
 
-// The end of the first word of a text, with the marks that belong to it.
+// The end of the first word of a text, with what stays together with it.
 std::size_t WordEnd(std::string_view text) {
-    auto end = std::min(text.find(' ', std::min(text.find_first_not_of(' '), text.size())), text.size());
-    while (end < text.size() && IsMark(text.substr(end + 1, text.find(' ', end + 1) - end - 1))) {
-        end = std::min(text.find(' ', end + 1), text.size());
+    const auto end_of_word = [text](std::size_t start) {
+        return std::min(text.find(' ', start), text.size());
+    };
+    std::size_t start = std::min(text.find_first_not_of(' '), text.size());
+    std::size_t end = end_of_word(start);
+    while (end < text.size()) {
+        const std::size_t next_end = end_of_word(end + 1);
+        const std::string_view next = text.substr(end + 1, next_end - end - 1);
+        if (!StayTogether(text.substr(start, end - start), next)) break;
+        start = end + 1;
+        end = next_end;
     }
     return end;
 }

@@ -51,10 +51,11 @@ TEST_F(LabelTest, WrapsAtBlanksAndBreaksAtCarriageReturns) {
     EXPECT_EQ(exact, (std::vector<PaintedLine>{{{0, 0}, "un deux", 100}}));
 }
 
-TEST_F(LabelTest, MarksStayWithTheWordBeforeThem) {
+TEST_F(LabelTest, MarksAndProductsStayTogether) {
     const auto lines = Painted({0, 0, 500, 600}, "multiple 7 ? non !", {.font = {100}});
     EXPECT_EQ(lines, (std::vector<PaintedLine>{{{0, 0}, "multiple", 100}, {{0, 120}, "7 ? non !", 100}}));
     EXPECT_EQ(Painted({0, 0, 450, 600}, "un deux ? !", {.font = {100}})[1].text, "deux ? !");
+    EXPECT_EQ(Painted({0, 0, 450, 600}, "28 = 4 X 7 = 28", {.font = {100}})[1].text, "4 X 7 =");
 }
 
 TEST_F(LabelTest, AlignsInItsBox) {
