@@ -4,7 +4,7 @@ build_packages="cmake ninja-build googletest"
 linux_packages="g++ pkgconf qt6-base-dev qt6-wayland libsdl2-dev libasound2-dev fonts-liberation"
 windows_packages="g++-mingw-w64-x86-64-posix"
 wine_packages="wine wine64 fonts-wine"
-display_packages="xvfb xdotool imagemagick python3"
+display_packages="xvfb xdotool imagemagick python3 strace"
 fuzz_packages="clang libclang-rt-14-dev"
 packaging_packages="appstream debhelper desktop-file-utils fakeroot imagemagick librsvg2-bin lintian nsis"
 

@@ -1,33 +1,26 @@
 """acceptance.py PROGRAM [PROBE]: drives the real program, in a real window, with a real pointer, as a pupil does."""
 
-import shutil
-import subprocess
 import sys
-import tempfile
 import time
 import unittest
-from pathlib import Path
 
 import counters
 import page as at
 from desk import Desk
-from programs import LinuxProgram, WindowsProgram, install
+from installed import Installed
+from programs import LinuxProgram, WindowsProgram
 from waiting import wait_until
 
 
-class Acceptance:
+class Acceptance(Installed):
     """What both programs are put to; the classes below bring the platform."""
 
     def setUp(self):
+        super().setUp()
         self.desk = self.enterContext(Desk())
-        self.folder = Path(self.enterContext(tempfile.TemporaryDirectory()), "Tables d'été à l'école")
-        self.executable = install(self.source, self.folder)
-        self.file = self.folder / "datas" / "18"
 
     def start(self, **environment):
-        program = self.enterContext(self.program(self.desk, self.executable, **environment))
-        program.page.wait_for(at.START)
-        return program
+        return self.enterContext(self.started(**environment))
 
     def quit(self, program):
         program.page.click(at.QUIT)
@@ -151,14 +144,9 @@ class WindowsAcceptance(Acceptance, unittest.TestCase):
         self.assertIn("desk 640x480", program.told[-1])
 
 
-def main(program, *probe):
-    case = WindowsAcceptance if probe else LinuxAcceptance
-    case.source = Path(program).resolve()
-    with tempfile.TemporaryDirectory() as scratch:
-        if probe:
-            WindowsProgram.prepare(Path(scratch, "wine"), *probe)
-        tests = unittest.defaultTestLoader.loadTestsFromTestCase(case)
-        return unittest.TextTestRunner(verbosity=2).run(tests).wasSuccessful()
+def main(*programs):
+    case = WindowsAcceptance if len(programs) > 1 else LinuxAcceptance
+    return case.run_all(*programs)
 
 
 if __name__ == "__main__":

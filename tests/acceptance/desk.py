@@ -45,8 +45,11 @@ class Desk:
     def move(self, x, y):
         self._pointer("mousemove", x, y)
 
-    def click(self, x, y):
-        self._pointer("mousemove", x, y, "sleep", 0.05, "click", 1, "sleep", 0.05)
+    def click(self, *places):
+        words = []
+        for x, y in places:
+            words += "mousemove", x, y, "sleep", 0.02, "click", "--delay", 20, 1
+        self._pointer(*words)
 
     def press(self, key):
         self._pointer("key", key)

@@ -1,5 +1,6 @@
 """Where a pupil finds things, in pixels of the page, and which screen is seen."""
 
+import functools
 import subprocess
 from pathlib import Path
 
@@ -18,6 +19,7 @@ BACK = (590, 467)
 FACTORING_MORE = (485, 57)
 FACTORING_ANSWER = (454, 65)
 MULTIPLE_NO = (470, 220)
+MULTIPLE_AGAIN = (584, 244)
 PRODUCT_MORE = (476, 34)
 PRODUCT_ANSWER = (476, 64)
 
@@ -59,15 +61,18 @@ class Backgrounds:
         return sum(abs(x - y) for x, y in zip(a, b, strict=True)) / len(a)
 
 
+backgrounds = functools.cache(Backgrounds)
+
+
 class Page:
     """The page as it lies on a desk: its top left corner, scaled."""
 
     def __init__(self, desk, scale):
-        self._desk, self._backgrounds, self._scale = desk, Backgrounds(), scale
+        self._desk, self._scale = desk, scale
         self.box = (0, 0, round(WIDTH * scale), round(HEIGHT * scale))
 
-    def click(self, place):
-        self._desk.click(*(round(part * self._scale) for part in place))
+    def click(self, *places):
+        self._desk.click(*((round(x * self._scale), round(y * self._scale)) for x, y in places))
 
     def go(self, place, screen):
         self.click(place)
@@ -78,7 +83,7 @@ class Page:
 
     def wait_for(self, screen):
         def shown():
-            self._nearest, difference = self._backgrounds.nearest(self._desk.look(self.box, Backgrounds.SIZE))
+            self._nearest, difference = backgrounds().nearest(self._desk.look(self.box, Backgrounds.SIZE))
             return self._nearest == screen and difference < Backgrounds.ALIKE
 
         if not wait_until(shown):

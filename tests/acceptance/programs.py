@@ -1,5 +1,6 @@
 """The two programs, each started from a folder of its own on a desk."""
 
+import contextlib
 import os
 import shutil
 import subprocess
@@ -27,12 +28,16 @@ def wine(prefix, *command):
     return subprocess.run([WINE, *map(str, command)], env=environment, timeout=PATIENCE).returncode
 
 
+# What the root user alone may do and no pupil, the reading and writing of anything, is taken from a program.
+AS_A_PUPIL = ["setpriv", "--bounding-set=-dac_override,-dac_read_search"] if os.geteuid() == 0 else []
+
+
 class LinuxProgram:
     SCALE = WIDTH / 640
 
-    def __init__(self, desk, executable, **environment):
+    def __init__(self, desk, executable, under=(), **environment):
         self.page = Page(desk, self.SCALE)
-        self._desk, self._command = desk, [str(executable)]
+        self._desk, self._command = desk, [*under, str(executable)]
         self._environment = desk.environment(**environment)
 
     def __enter__(self):
@@ -74,6 +79,7 @@ class WindowsProgram:
     """Runs in a desktop with a taskbar, beside a probe that tells what becomes of both."""
 
     SCALE = 1
+    DESKTOP = WINE, "explorer", f"/desktop=shell,{WIDTH}x{HEIGHT}"
     prefix = None
 
     @classmethod
@@ -84,16 +90,20 @@ class WindowsProgram:
         wine(prefix, "wineboot", "-i")
         shutil.copy(probe, prefix / "drive_c" / "probe.exe")
 
-    def __init__(self, desk, executable, **environment):
+    @staticmethod
+    def end_wine(environment):
+        subprocess.run(["wineserver", "-k"], env=environment)
+
+    def __init__(self, desk, executable, under=(), **environment):
         self.page = Page(desk, self.SCALE)
+        self._under = under
         self._environment = desk.environment(WINEPREFIX=str(self.prefix), **environment)
         self._folder = executable.parent
         self.told = []
 
     def __enter__(self):
-        desktop = f"/desktop=shell,{WIDTH}x{HEIGHT}"
         self._process = subprocess.Popen(
-            [WINE, "explorer", desktop, r"C:\probe.exe"],
+            [*self._under, *self.DESKTOP, r"C:\probe.exe"],
             cwd=self._folder,
             env=self._environment,
             stdin=subprocess.PIPE,
@@ -105,7 +115,7 @@ class WindowsProgram:
 
     def __exit__(self, *_):
         # All of them at once: whichever is left would keep the pipe open.
-        subprocess.run(["wineserver", "-k"], env=self._environment)
+        self.end_wine(self._environment)
         self._process.kill()
         self._process.communicate()
 
@@ -123,3 +133,25 @@ class WindowsProgram:
     def report(self):
         self.wait()
         return "".join(line.removeprefix("report ") for line in self.told if line.startswith("report "))
+
+
+class NextWindowsProgram(WindowsProgram):
+    """Runs in a desktop that outlives it, which spares it most of Wine's start."""
+
+    @classmethod
+    @contextlib.contextmanager
+    def desktop(cls, desk, under=()):
+        environment = desk.environment(WINEPREFIX=str(cls.prefix))
+        bottom = (0, HEIGHT - 1, 1, 1)
+        empty = desk.look(bottom, (1, 1))
+        cls.end_wine(environment)  # the files are opened by its server, which must run as the programs do
+        explorer = subprocess.Popen([*under, *cls.DESKTOP], env=environment)
+        if not wait_until(lambda: desk.look(bottom, (1, 1)) != empty):
+            raise AssertionError("no taskbar is shown")
+        yield
+        cls.end_wine(environment)
+        explorer.wait()
+
+    def __exit__(self, *failure):
+        if not self.told:  # it still runs
+            super().__exit__(*failure)

@@ -115,16 +115,15 @@ TEST_P(RealPlatformContract, AnUnreadablePictureIsNamed) {
     EXPECT_NE(ErrorOf([&] { platform().LoadPicture(Place("")); }), "");
     for (const TinyPicture& tiny_picture : tiny::kAll) {
         SCOPED_TRACE(tiny_picture.format);
+        const std::string_view whole = tiny_picture.bytes;
         for (const std::string_view bytes :
-             {tiny_picture.bytes.substr(0, 0), tiny_picture.bytes.substr(0, 12), tiny_picture.bytes.substr(2),
-              std::string_view("illisible")}) {
+             {whole.substr(0, 0), whole.substr(0, 12), whole.substr(0, whole.size() / 2),
+              whole.substr(0, whole.size() - 1), whole.substr(2), std::string_view("illisible")}) {
             const fs::path file = Write("13 é", bytes);
             EXPECT_TRUE(Holds(ErrorOf([&] { platform().LoadPicture(file); }), "13 é")) << bytes.size();
             EXPECT_NE(ErrorOf([&] { platform().LoadPicture(tiny::AsBytes(bytes)); }), "") << bytes.size();
         }
     }
-    const fs::path cut_short = Write("14", tiny::kPng.bytes.substr(0, 50));
-    EXPECT_TRUE(Holds(ErrorOf([&] { platform().LoadPicture(cut_short); }), "14"));
 }
 
 TEST_P(PlatformContract, AClipLiesInsideItsPicture) {

@@ -1,8 +1,10 @@
 #include "platform/qt/qt_picture.h"
 
+#include <QBuffer>
 #include <QImageReader>
 
 #include "platform/qt/enlarge.h"
+#include "support/whole_picture.h"
 
 namespace {
 
@@ -29,7 +31,11 @@ const QImage& QtPicture::AtSize(QSize size) const {
     return scaled_;
 }
 
-std::shared_ptr<const QtPicture> ReadPicture(QIODevice& device) {
+std::shared_ptr<const QtPicture> DecodePicture(std::span<const std::byte> bytes) {
+    if (IsCutShort(bytes)) return nullptr;
+    QByteArray content = QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
+                                                 static_cast<qsizetype>(bytes.size()));
+    QBuffer device(&content);
     QImageReader reader(&device);
     reader.setDecideFormatFromContent(true);
     QImage image = reader.read();

@@ -1,12 +1,11 @@
 #pragma once
 
 #include <QImage>
-#include <filesystem>
+#include <cstddef>
 #include <memory>
+#include <span>
 
 #include "forms/drawing.h"
-
-class QIODevice;
 
 class QtPicture final : public Picture {
   public:
@@ -26,4 +25,4 @@ class QtPicture final : public Picture {
 };
 
 // Null when no picture can be read. Its format is recognised by the content.
-std::shared_ptr<const QtPicture> ReadPicture(QIODevice& device);
+std::shared_ptr<const QtPicture> DecodePicture(std::span<const std::byte> bytes);

@@ -1,6 +1,5 @@
 #include "platform/qt/qt_platform.h"
 
-#include <QBuffer>
 #include <QFile>
 #include <QGuiApplication>
 #include <QScreen>
@@ -32,16 +31,14 @@ std::filesystem::path FindExecutableFolder(const std::filesystem::path& started_
 
 PicturePtr QtPlatform::LoadPicture(const std::filesystem::path& file) {
     QFile device(file);
-    auto picture = ReadPicture(device);
+    const QByteArray content = device.open(QIODevice::ReadOnly) ? device.readAll() : QByteArray();
+    auto picture = DecodePicture(std::as_bytes(std::span(content)));
     if (!picture) throw FileError("Image introuvable ou illisible", file);
     return picture;
 }
 
 PicturePtr QtPlatform::LoadPicture(std::span<const std::byte> bytes) {
-    QByteArray content = QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
-                                                 static_cast<qsizetype>(bytes.size()));
-    QBuffer device(&content);
-    auto picture = ReadPicture(device);
+    auto picture = DecodePicture(bytes);
     if (!picture) throw RunTimeError("Image illisible.");
     return picture;
 }

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "platform/windows/gdi_plus.h"
+#include "support/whole_picture.h"
 
 namespace {
 
@@ -39,6 +40,7 @@ void GdiPicture::NoteOpacity() {
 }
 
 std::shared_ptr<GdiPicture> DecodePicture(std::span<const std::byte> bytes) {
+    if (IsCutShort(bytes)) return nullptr;
     const std::unique_ptr<IStream, Releaser> stream(
         SHCreateMemStream(reinterpret_cast<const BYTE*>(bytes.data()), static_cast<UINT>(bytes.size())));
     if (!stream) return nullptr;
