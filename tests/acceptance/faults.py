@@ -1,8 +1,8 @@
 """faults.py PROGRAM [PROBE]: what the real program does when its folder or its disk fails it, or it is killed."""
 
 import contextlib
-
 import shutil
+import signal
 import struct
 import subprocess
 import sys
@@ -13,7 +13,8 @@ import counters
 import page as at
 from desk import Desk
 from installed import Installed
-from programs import AS_A_PUPIL, ROOT, LinuxProgram, NextWindowsProgram, install
+from programs import AS_A_PUPIL, LinuxProgram, NextWindowsProgram, install
+from tracing import Trace
 
 
 def missing(file):
@@ -43,6 +44,8 @@ NOT_READ = missing, unreadable, a_folder
 PICTURES = "11", "12", "13", "14", "15", "16"
 SOUNDS = [*map(str, range(1, 11)), *(f"{number}.{kind}" for number in range(1, 5) for kind in ("vic", "def"))]
 
+FULL = struct.pack("<h", 32767)
+
 
 @contextlib.contextmanager
 def spoiled(file, fault):
@@ -59,13 +62,6 @@ def state(folder):
     """Everything that a change of any file would change."""
     files = {folder, *folder.rglob("*")}
     return {file: (s.st_mode, s.st_ino, s.st_size, s.st_mtime_ns) for file in files for s in [file.lstat()]}
-
-
-def full(offset):
-    """The delivered counters, but for a 16-bit number that can go no further."""
-    content = bytearray((ROOT / "datas" / "18").read_bytes())
-    struct.pack_into("<h", content, offset, 32767)
-    return bytes(content)
 
 
 @contextlib.contextmanager
@@ -95,6 +91,11 @@ class Faults(Installed):
     @classmethod
     def setUpClass(cls):
         cls.desk = cls.enterClassContext(Desk())
+
+    def setUp(self):
+        super().setUp()
+        self.old = self.file.read_bytes()
+        self.new = self.old[:2] + b"\1\0" + self.old[4:]
 
     def run_as_pupil(self):
         return self.started(under=AS_A_PUPIL)
@@ -128,9 +129,7 @@ class Faults(Installed):
 
     def test_counters_cut_short_count_on_from_zero(self):
         worn = counters.worn()
-        delivered = bytearray((ROOT / "datas" / "18").read_bytes())
-        delivered[counters.SAVED_ONCE] = 1
-        for content, saved in ((b"", delivered), (worn[:61], worn[:60] + bytes(62))):
+        for content, saved in ((b"", self.new), (worn[:61], worn[:60] + bytes(62))):
             with self.subTest(content):
                 self.file.write_bytes(content)
                 with self.run_as_pupil() as program:
@@ -144,7 +143,7 @@ class Faults(Installed):
                     stack.enter_context(spoiled(self.folder / "datas" / name, fault))
                 victories = defeats = 0
                 while min(victories, defeats) < 4:
-                    self.file.write_bytes((ROOT / "datas" / "18").read_bytes())
+                    self.file.write_bytes(self.old)
                     victories, defeats = self.play_sounds()
 
     def play_sounds(self):
@@ -186,13 +185,14 @@ class Faults(Installed):
 
     def test_a_full_counter_ends_the_run(self):
         consultations, exercises, *_ = counters.of_table(7)
+        exercises_screen = at.EXERCISES, at.EXERCISES_SCREEN
         for offset, name, way in (
             (consultations, "TableConsultations(5)", [at.TABLE_OF_7]),
             (exercises, "TableExercises(5)", [at.TABLE_OF_7, at.LEARNING, at.MULTIPLE_NO]),
-            (counters.PUZZLE_COUNT, "PuzzleCount", [at.EXERCISES, at.EXERCISES_SCREEN, at.PRODUCT_MORE, at.PRODUCT_ANSWER]),
+            (counters.PUZZLE_COUNT, "PuzzleCount", [*exercises_screen, at.PRODUCT_MORE, at.PRODUCT_ANSWER]),
         ):
             with self.subTest(name):
-                self.file.write_bytes(full(offset))
+                self.file.write_bytes(self.old[:offset] + FULL + self.old[offset + 2 :])
                 before = state(self.folder)
                 with self.run_as_pupil() as program:
                     for step in way:
@@ -205,16 +205,15 @@ class Faults(Installed):
                 self.assertEqual(state(self.folder), before)
 
     def test_a_tagged_counter_grows_wide(self):
-        before = full(counters.LESSON_CONSULTATIONS)
-        at_tag = counters.LESSON_CONSULTATIONS - 2
-        self.file.write_bytes(before)
+        value_at = counters.LESSON_CONSULTATIONS
+        self.file.write_bytes(self.old[:value_at] + FULL + self.old[value_at + 2 :])
         for value in (32768, 32769):
             with self.run_as_pupil() as program:
                 program.page.go(at.LESSONS, at.LESSONS_SCREEN)
                 program.page.back()
                 self.quit(program)
-            expected = before[:2] + b"\1\0" + before[4:at_tag] + struct.pack("<hi", 3, value) + before[at_tag + 4:]
-            self.assertEqual(self.file.read_bytes(), expected)
+            grown = struct.pack("<hi", 3, value)
+            self.assertEqual(self.file.read_bytes(), self.new[: value_at - 2] + grown + self.new[value_at + 2 :])
 
 
 class LinuxFaults(Faults, unittest.TestCase):
@@ -226,6 +225,30 @@ class LinuxFaults(Faults, unittest.TestCase):
         pass
 
     check_desk_left = check_desk_untouched
+
+    def test_killed_at_any_call_of_the_save_the_file_is_whole(self):
+        status, calls = self.quit_traced()
+        self.assertEqual(status, 0)
+        self.assertGreaterEqual({name for name, _ in calls}, {"openat", "write", "fsync", "rename"})
+        renamed = [name for name, _ in calls].index("rename")
+        for number, call in enumerate(calls):
+            with self.subTest(call=call):
+                # The window makes calls of the same names: where it made other ones than before, once more.
+                killed = -signal.SIGKILL, calls[: number + 1]
+                self.assertTrue(any(self.quit_traced(*call) == killed for _ in range(5)))
+                self.assertEqual(self.file.read_bytes(), self.old if number <= renamed else self.new)
+        with self.run_as_pupil() as program:
+            self.quit(program)
+
+    def quit_traced(self, *last_call):
+        """Quits a program that is killed before a call; tells how it ended and what it called of the save."""
+        with self.run_as_pupil() as program:
+            self.file.write_bytes(self.old)
+            trace = Trace(program.process, *last_call)
+            if not trace.attached:
+                self.skipTest("a process may not be traced here")
+            program.page.click(at.QUIT)
+            return program.wait(), trace.calls(self.folder.parent.name)
 
 
 class WindowsFaults(Faults, unittest.TestCase):

@@ -50,6 +50,10 @@ class LinuxProgram:
         self._process.kill()
         self._process.communicate()
 
+    @property
+    def process(self):
+        return self._process.pid
+
     def wait(self):
         return self._process.wait(PATIENCE)
 
