@@ -15,7 +15,10 @@ struct Showing {
 // A pupil who has just chosen a table.
 class Learner : public Pupil {
   public:
-    explicit Learner(int table, const Showing& showing = {}) { Choose(table, showing); }
+    explicit Learner(int table, const Showing& showing = {}, const Counters& counters = {}) {
+        StartWith(counters);
+        Choose(table, showing);
+    }
 
     void Choose(int table, const Showing& showing = {}) {
         for (const auto* draws : {&showing.factoring, &showing.multiple, &showing.letter, &showing.sign}) {

@@ -1,5 +1,4 @@
 #include "support/pupil.h"
-#include "support/run_time_error.h"
 
 namespace {
 
@@ -121,14 +120,17 @@ TEST(Depart, ClockTicksEverySecondEvenUnseen) {
 }
 
 TEST(Depart, FullConsultationCounterStopsTheRunBeforeTheTableOpens) {
-    Pupil pupil([](HeadlessPlatform& platform) {
-        std::string bytes = platform.ReadData("18");
-        bytes.replace(32, 2, "\xFF\x7F");
-        platform.WriteData("18", bytes);
-    });
-    EXPECT_THROW(pupil.Click(pupil.screens.depart.chiffre[0]), RunTimeError);
-    EXPECT_EQ(pupil.screens.apprendre.titre.caption(), "Jouons avec la Table de 2");
-    EXPECT_FALSE(pupil.screens.apprendre.form.visible());
+    for (int i = 0; i < kStoredTables; ++i) {
+        Counters counters;
+        counters.TableConsultations[static_cast<std::size_t>(i)] = 32767;
+        Pupil pupil;
+        pupil.StartWith(counters);
+        pupil.ClickIntoFull(pupil.screens.depart.chiffre[i], "TableConsultations(" + std::to_string(i) + ")");
+        EXPECT_EQ(pupil.Heard(), Names{"5"});
+        EXPECT_EQ(pupil.screens.apprendre.titre.caption(),
+                  "Jouons avec la Table de " + std::to_string(i + 2));
+        EXPECT_FALSE(pupil.screens.apprendre.form.visible());
+    }
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "services/data_folder.h"
 #include "stats/usage_record.h"
+#include "support/run_time_error.h"
 
 namespace {
 
@@ -43,6 +44,17 @@ void Pupil::Click(const Control& control) {
     const Form* front = program.stage().front();
     ASSERT_TRUE(front && front->ControlAt(On(control)) == &control) << "out of the pointer's reach";
     Tap(control);
+}
+
+void Pupil::ClickIntoFull(const Control& control, const std::string& counter) {
+    const std::string file = platform.ReadData("18");
+    try {
+        Click(control);
+        ADD_FAILURE() << "a full counter was raised";
+    } catch (const RunTimeError& error) {
+        EXPECT_EQ(error.what(), "Dépassement de capacité du compteur « " + counter + " ».");
+    }
+    EXPECT_EQ(platform.ReadData("18"), file);
 }
 
 void Pupil::Tap(const Control& control) {

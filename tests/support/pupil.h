@@ -26,6 +26,8 @@ class Pupil {
     // control, Tap() does not mind.
     void Click(const Control& control);
     void Tap(const Control& control);
+    // A click that runs into a full counter: the error names it, and nothing is saved.
+    void ClickIntoFull(const Control& control, const std::string& counter);
     void MoveOnto(const Control& control);
     // Presses an arrow's upper (positive) or lower half so many times.
     void Step(const UpDown& arrows, int times);
