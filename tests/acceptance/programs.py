@@ -129,6 +129,16 @@ class WindowsProgram:
         self.told = output.splitlines()
         return int(self.told.pop().removeprefix("exit "))
 
+    @property
+    def process(self):
+        """Its number outside of Wine."""
+        own = f"WINEPREFIX={self.prefix}".encode()
+        for folder in Path("/proc").glob("[0-9]*"):
+            with contextlib.suppress(OSError):  # it may have ended
+                command, environment = ((folder / name).read_bytes().split(b"\0") for name in ("cmdline", "environ"))
+                if command[0].endswith(b"onze-tables.exe") and own in environment:
+                    return int(folder.name)
+
     def kill(self):
         self._process.stdin.write("\n")
         self._process.stdin.flush()

@@ -7,18 +7,21 @@ from pathlib import Path
 
 
 class Trace:
-    """Follows a process to its end, which is before the call told, the n-th of its name."""
+    """Follows a process, in its calls on these paths or in all of them, to its end: that of before the call told,
+    the n-th of its name, or its own."""
 
-    def __init__(self, process, *last_call):
+    def __init__(self, process, paths, *last_call):
         self._scratch = tempfile.TemporaryDirectory()
         self._log = Path(self._scratch.name, "calls")
         kill = ["--inject={}:signal=KILL:when={}".format(*last_call)] if last_call else []
-        command = ["strace", "-y", "-o", self._log, *kill, "-p", str(process)]
+        only = [f"--trace-path={path}" for path in paths]
+        command = ["strace", "-y", "-o", self._log, *only, *kill, "-p", str(process)]
         self._strace = subprocess.Popen(command, stderr=subprocess.PIPE, text=True)
-        self.attached = "attached" in self._strace.stderr.readline()
+        self.attached = any("attached" in line for line in iter(self._strace.stderr.readline, ""))
 
-    def calls(self, path):
-        """The calls that named a path, each as its name and how many of that name there were by then."""
+    def calls(self, word):
+        """Whether it was killed, and the calls that held a word, each as its name and how many of that name there
+        were by then."""
         self._strace.communicate()
         with self._scratch:
             lines = self._log.read_text().splitlines()
@@ -27,6 +30,6 @@ class Trace:
         for line in lines:
             name = line.partition("(")[0]
             numbers[name] += 1
-            if path in line:
+            if word in line:
                 found.append((name, numbers[name]))
-        return found
+        return "killed" in lines[-1], found
