@@ -7,6 +7,7 @@ wine_packages="wine wine64 fonts-wine"
 display_packages="xvfb xdotool imagemagick python3"
 fuzz_packages="clang libclang-rt-14-dev"
 packaging_packages="appstream debhelper desktop-file-utils fakeroot imagemagick librsvg2-bin lintian nsis"
+bench_packages="kbruch tuxmath python3-numpy python3-xlib"
 
 # Installs what is missing of the named packages, or names the one line that does.
 need() {
