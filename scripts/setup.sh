@@ -1,7 +1,7 @@
 # Sourced by the commands: the Debian packages that each purpose takes, and their installation.
 
 build_packages="cmake ninja-build googletest"
-linux_packages="g++ pkgconf qt6-base-dev qt6-wayland libsdl2-dev libasound2-dev fonts-liberation"
+linux_packages="g++ pkgconf qt6-base-dev qt6-wayland libsdl2-dev fonts-liberation"
 windows_packages="g++-mingw-w64-x86-64-posix"
 wine_packages="wine wine64 fonts-wine"
 display_packages="xvfb xdotool imagemagick python3"

@@ -40,9 +40,11 @@ std::vector<Mix> Mixes(int old_length, int new_length) {
     return mixes;
 }
 
-// The count values from each place on, mixed. Plain enough for the compiler to make vectors of it.
-void MixInto(float* mixed, const std::array<float, kTaps>& weight,
-             const std::array<const float*, kTaps>& from, std::size_t count) {
+// As many values from each place on, mixed. The compiler makes vectors of it, as nothing else lies where it
+// writes.
+using Places = std::array<const float*, kTaps>;
+void MixInto(float* __restrict mixed, const std::array<float, kTaps>& weight, const Places& from,
+             std::size_t count) {
     for (std::size_t i = 0; i < count; ++i) {
         mixed[i] =
             weight[0] * from[0][i] + weight[1] * from[1][i] + weight[2] * from[2][i] + weight[3] * from[3][i];
@@ -70,7 +72,7 @@ class WideRows {
         std::copy_n(bytes, narrow_.size(), narrow_.begin());
         float* wide = Kept(y).data();
         for (const Mix& mix : columns_) {
-            std::array<const float*, kTaps> from;
+            Places from;
             for (std::size_t k = 0; k < kTaps; ++k) {
                 from[k] = narrow_.data() + kChannels * static_cast<std::size_t>(mix.from[k]);
             }
@@ -95,7 +97,7 @@ void EndAtAlpha(Row& row) {
 }
 
 std::uint8_t ToByte(float channel) {
-    return static_cast<std::uint8_t>(static_cast<int>(std::min(std::max(channel, 0.0F), 255.0F) + 0.5F));
+    return static_cast<std::uint8_t>(std::clamp(static_cast<int>(channel + 0.5F), 0, 255));
 }
 
 }  // namespace
@@ -107,7 +109,7 @@ QImage Enlarged(const QImage& image, QSize size) {
     Row mixed(kChannels * static_cast<std::size_t>(size.width()));
     for (int y = 0; y < size.height(); ++y) {
         const Mix& mix = rows[static_cast<std::size_t>(y)];
-        std::array<const float*, kTaps> from;
+        Places from;
         for (std::size_t k = 0; k < kTaps; ++k) from[k] = wide_rows.At(mix.from[k]);
         MixInto(mixed.data(), mix.weight, from, mixed.size());
         if (image.hasAlphaChannel()) EndAtAlpha(mixed);
