@@ -49,7 +49,7 @@ class Bench:
         else:
             os.kill(pid, signal.SIGKILL)
         os.waitpid(pid, 0)
-        time.sleep(0.5)
+        time.sleep(1)  # the desktop is as it was before
 
     @contextmanager
     def _shown(self, subject):

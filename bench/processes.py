@@ -48,7 +48,7 @@ def _field(pid, file, name):
 
 
 BUSY = 0.15  # of all cores
-PATIENCE = 20  # seconds
+PATIENCE = 5  # seconds
 _busy_times = []
 
 

@@ -11,7 +11,6 @@ import page as at
 import processes
 from programs import ROOT, WINE, LinuxProgram, WindowsProgram, install
 
-NOTEPAD = Path("/usr/lib/x86_64-linux-gnu/wine/x86_64-windows/notepad.exe")
 SCREENS = at.TABLE_OF_7, at.EXERCISES, at.PYTHAGORAS, at.LESSONS, at.REPORT
 BLINK = at.PYTHAGORAS, at.column(8), at.row(7)
 
@@ -77,9 +76,11 @@ def linux_subjects(program, floor, folder):
 
 def windows_subjects(program, folder):
     wine = ["/usr/lib/wine/wine64"]
+    notepad = WindowsProgram.prefix / "drive_c" / "windows" / "system32" / "notepad.exe"
+    file_menu = (16, 33)
     return [
         onze_tables(wine, install(program, folder / "Onze Tables"), WindowsProgram.SCALE),
-        Subject("Wine's notepad", [*wine, "notepad"], [NOTEPAD]),
+        Subject("Wine's notepad", [*wine, str(notepad)], [notepad], click=file_menu, back=file_menu),
     ]
 
 
