@@ -48,21 +48,23 @@ def _field(pid, file, name):
 
 
 BUSY = 0.15  # of all cores
-PATIENCE = 5  # seconds
-_busy_times = []
+PATIENCE = 60  # seconds
+_busy_shares = []
 
 
 def wait_until_quiet():
-    """Waits until other programs leave the machine alone, for a while."""
+    """Waits until other programs leave the machine alone, unless they were already found not to do so."""
+    if was_busy():
+        return
     end = time.monotonic() + PATIENCE
     while (busy := _busy_share(0.3)) > BUSY and time.monotonic() < end:
         pass
     if busy > BUSY:
-        _busy_times.append(busy)
+        _busy_shares.append(busy)
 
 
 def was_busy():
-    return bool(_busy_times)
+    return bool(_busy_shares)
 
 
 def _busy_share(seconds):

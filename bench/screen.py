@@ -43,8 +43,10 @@ class Screen:
             time.sleep(pause)
         raise AssertionError("what should be painted is not")
 
-    def settled(self, seconds):
-        """What is seen once nothing more happens, and which pixels have not changed for the last third of the time."""
+    def settled(self, seconds, before=None):
+        """What is seen some time after a change, and which pixels have been still for the last third of that time."""
+        if before is not None:
+            self._wait_for_change(before)
         time.sleep(seconds * 2 / 3)
         last = self.seen()
         still = numpy.ones_like(last, dtype=bool)
@@ -52,6 +54,13 @@ class Screen:
             time.sleep(seconds / 30)
             still &= self._pixels == last
         return last, still
+
+    def _wait_for_change(self, before, patience=60):
+        end = time.monotonic() + patience
+        while numpy.count_nonzero(self._pixels != before) < FEWEST * BLOCK * BLOCK:
+            if time.monotonic() > end:
+                raise AssertionError("nothing is painted")
+            time.sleep(0.05)
 
     def point(self, x, y):
         xtest.fake_input(self._display, X.MotionNotify, x=x, y=y)
