@@ -217,7 +217,7 @@ def main():
         os.environ["HOME"] = scratch
         with Desk("-fbdir", memory) as desk:
             time.sleep(1)
-            environment = desk.environment()
+            environment = desk.environment(SDL_AUDIODRIVER="dummy")
             screen = Screen(Path(memory, "Xvfb_screen0"), environment["DISPLAY"])
             if given.only != "windows":
                 subjects = linux_subjects(given.program, given.floor, Path(scratch, "linux"))

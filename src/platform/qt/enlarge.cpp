@@ -5,11 +5,13 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <thread>
 #include <vector>
 
 namespace {
 
 constexpr int kTaps = 4;
+constexpr int kWorthAThread = 200;  // rows; a page has more, a digit has not
 constexpr std::size_t kChannels = 4;
 constexpr std::size_t kAlpha = QSysInfo::ByteOrder == QSysInfo::LittleEndian ? 3 : 0;
 using Row = std::vector<float>;  // the channels of one pixel after the other, 0 to 255
@@ -60,6 +62,7 @@ class WideRows {
     }
 
     const float* At(int y) {
+        if (next_ < 0) next_ = y;
         for (; next_ <= y; ++next_) Widen(next_);
         return Kept(y).data();
     }
@@ -85,7 +88,7 @@ class WideRows {
     std::vector<Mix> columns_;
     Row narrow_;
     std::array<Row, kTaps> kept_;
-    int next_ = 0;
+    int next_ = -1;  // none is wide yet
 };
 
 // The curve can pass the ends of a channel's range; a premultiplied colour ends at its alpha.
@@ -100,20 +103,30 @@ std::uint8_t ToByte(float channel) {
     return static_cast<std::uint8_t>(std::clamp(static_cast<int>(channel + 0.5F), 0, 255));
 }
 
-}  // namespace
-
-QImage Enlarged(const QImage& image, QSize size) {
-    QImage enlarged(size, image.format());
+// The new rows from one to before another, into the bytes of the whole picture.
+void EnlargeRows(const QImage& image, QSize size, std::uint8_t* bytes, int begin, int end) {
     WideRows wide_rows(image, size.width());
     const std::vector<Mix> rows = Mixes(image.height(), size.height());
     Row mixed(kChannels * static_cast<std::size_t>(size.width()));
-    for (int y = 0; y < size.height(); ++y) {
+    bytes += mixed.size() * static_cast<std::size_t>(begin);
+    for (int y = begin; y < end; ++y) {
         const Mix& mix = rows[static_cast<std::size_t>(y)];
         Places from;
         for (std::size_t k = 0; k < kTaps; ++k) from[k] = wide_rows.At(mix.from[k]);
         MixInto(mixed.data(), mix.weight, from, mixed.size());
         if (image.hasAlphaChannel()) EndAtAlpha(mixed);
-        std::transform(mixed.begin(), mixed.end(), enlarged.scanLine(y), ToByte);
+        bytes = std::transform(mixed.begin(), mixed.end(), bytes, ToByte);
     }
+}
+
+}  // namespace
+
+QImage Enlarged(const QImage& image, QSize size) {
+    QImage enlarged(size, image.format());
+    const int middle = size.height() >= kWorthAThread ? size.height() / 2 : 0;
+    std::uint8_t* const bytes = enlarged.bits();
+    std::jthread upper;
+    if (middle > 0) upper = std::jthread([=, &image] { EnlargeRows(image, size, bytes, 0, middle); });
+    EnlargeRows(image, size, bytes, middle, size.height());
     return enlarged;
 }
