@@ -1,12 +1,13 @@
 # Sourced by the commands: the Debian packages that each purpose takes, and their installation.
 
 build_packages="cmake ninja-build googletest"
-linux_packages="g++ pkgconf qt6-base-dev qt6-wayland libsdl2-dev libasound2-dev fonts-liberation"
+linux_packages="g++ pkgconf qt6-base-dev qt6-wayland libsdl2-dev fonts-liberation"
 windows_packages="g++-mingw-w64-x86-64-posix"
 wine_packages="wine wine64 fonts-wine"
 display_packages="xvfb xdotool imagemagick python3 strace"
 fuzz_packages="clang libclang-rt-14-dev"
 packaging_packages="appstream debhelper desktop-file-utils fakeroot imagemagick librsvg2-bin lintian nsis"
+bench_packages="kbruch tuxmath python3-numpy python3-xlib"
 
 # Installs what is missing of the named packages, or names the one line that does.
 need() {

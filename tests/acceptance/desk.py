@@ -11,10 +11,14 @@ SOUND_DEVICE = 'pcm.!default {{ type file slave.pcm {{ type null }} file "{}" fo
 
 
 class Desk:
+    def __init__(self, *server_options):
+        screen = ["-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-nolisten", "tcp", "-noreset"]
+        self._command = ["Xvfb", *screen, *server_options]
+
     def __enter__(self):
         read, write = os.pipe()
         self._server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-nolisten", "tcp", "-noreset"],
+            [*self._command, "-displayfd", str(write)],
             pass_fds=[write],
             stderr=subprocess.DEVNULL,
         )

@@ -51,7 +51,7 @@ class LegibilityCanvas final : public Canvas {
           fonts_(fonts),
           faults_(faults),
           checks_(checks),
-          canvas_(painter, PageView::Fitting(image.size()), fonts) {}
+          canvas_(painter, PageView::Fitting(image.size()), fonts, pictures_) {}
 
     void DrawPicture(const Picture& picture, Point at) override { canvas_.DrawPicture(picture, at); }
     void FillBox(const Rect& box, Color color, int radius) override { canvas_.FillBox(box, color, radius); }
@@ -100,6 +100,7 @@ class LegibilityCanvas final : public Canvas {
     PageFonts& fonts_;
     std::set<std::string>& faults_;
     Checks& checks_;
+    ScaledPictures pictures_;
     PainterCanvas canvas_;
 };
 

@@ -1,15 +1,20 @@
 #include "platform/qt/enlarge.h"
 
+#include <QSysInfo>
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdint>
+#include <thread>
 #include <vector>
 
 namespace {
 
 constexpr int kTaps = 4;
-constexpr int kChannels = 4;
-using Pixel = std::array<float, kChannels>;  // blue, green, red, alpha; 0 to 255
+constexpr int kWorthAThread = 200;  // rows; a page has more, a digit has not
+constexpr std::size_t kChannels = 4;
+constexpr std::size_t kAlpha = QSysInfo::ByteOrder == QSysInfo::LittleEndian ? 3 : 0;
+using Row = std::vector<float>;  // the channels of one pixel after the other, 0 to 255
 
 // The old pixels that a new one is made of, in one direction.
 struct Mix {
@@ -37,60 +42,91 @@ std::vector<Mix> Mixes(int old_length, int new_length) {
     return mixes;
 }
 
-template <class PixelAt>
-Pixel Mixed(const Mix& mix, PixelAt pixel_at) {
-    Pixel mixed{};
-    for (std::size_t k = 0; k < kTaps; ++k) {
-        const Pixel& pixel = pixel_at(mix.from[k]);
-        for (std::size_t c = 0; c < kChannels; ++c) mixed[c] += mix.weight[k] * pixel[c];
+// As many values from each place on, mixed. The compiler makes vectors of it, as nothing else lies where it
+// writes.
+using Places = std::array<const float*, kTaps>;
+void MixInto(float* __restrict mixed, const std::array<float, kTaps>& weight, const Places& from,
+             std::size_t count) {
+    for (std::size_t i = 0; i < count; ++i) {
+        mixed[i] =
+            weight[0] * from[0][i] + weight[1] * from[1][i] + weight[2] * from[2][i] + weight[3] * from[3][i];
     }
-    return mixed;
 }
+
+// A picture's rows, brought to their new width one after the other; the last few are kept.
+class WideRows {
+  public:
+    WideRows(const QImage& image, int width) : image_(image), columns_(Mixes(image.width(), width)) {
+        narrow_.resize(kChannels * static_cast<std::size_t>(image.width()));
+        for (Row& row : kept_) row.resize(kChannels * columns_.size());
+    }
+
+    const float* At(int y) {
+        if (next_ < 0) next_ = y;
+        for (; next_ <= y; ++next_) Widen(next_);
+        return Kept(y).data();
+    }
+
+  private:
+    Row& Kept(int y) { return kept_.at(static_cast<std::size_t>(y % kTaps)); }
+
+    void Widen(int y) {
+        const std::uint8_t* bytes = image_.constScanLine(y);
+        std::copy_n(bytes, narrow_.size(), narrow_.begin());
+        float* wide = Kept(y).data();
+        for (const Mix& mix : columns_) {
+            Places from;
+            for (std::size_t k = 0; k < kTaps; ++k) {
+                from[k] = narrow_.data() + kChannels * static_cast<std::size_t>(mix.from[k]);
+            }
+            MixInto(wide, mix.weight, from, kChannels);
+            wide += kChannels;
+        }
+    }
+
+    const QImage& image_;
+    std::vector<Mix> columns_;
+    Row narrow_;
+    std::array<Row, kTaps> kept_;
+    int next_ = -1;  // none is wide yet
+};
 
 // The curve can pass the ends of a channel's range; a premultiplied colour ends at its alpha.
-QRgb ToRgb(const Pixel& pixel) {
-    const float alpha = std::clamp(pixel[3], 0.0F, 255.0F);
-    const auto byte = [alpha](float channel) {
-        return static_cast<int>(std::clamp(channel, 0.0F, alpha) + 0.5F);
-    };
-    return qRgba(byte(pixel[2]), byte(pixel[1]), byte(pixel[0]), byte(alpha));
+void EndAtAlpha(Row& row) {
+    for (auto pixel = row.begin(); pixel != row.end(); pixel += kChannels) {
+        const float alpha = pixel[kAlpha];
+        for (std::size_t c = 0; c < kChannels; ++c) pixel[c] = std::min(pixel[c], alpha);
+    }
 }
 
-std::vector<Pixel> Row(const QImage& image, int y) {
-    const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-    std::vector<Pixel> row;
-    row.reserve(static_cast<std::size_t>(image.width()));
-    for (int x = 0; x < image.width(); ++x) {
-        row.push_back({static_cast<float>(qBlue(line[x])), static_cast<float>(qGreen(line[x])),
-                       static_cast<float>(qRed(line[x])), static_cast<float>(qAlpha(line[x]))});
+std::uint8_t ToByte(float channel) {
+    return static_cast<std::uint8_t>(std::clamp(static_cast<int>(channel + 0.5F), 0, 255));
+}
+
+// The new rows from one to before another, into the bytes of the whole picture.
+void EnlargeRows(const QImage& image, QSize size, std::uint8_t* bytes, int begin, int end) {
+    WideRows wide_rows(image, size.width());
+    const std::vector<Mix> rows = Mixes(image.height(), size.height());
+    Row mixed(kChannels * static_cast<std::size_t>(size.width()));
+    bytes += mixed.size() * static_cast<std::size_t>(begin);
+    for (int y = begin; y < end; ++y) {
+        const Mix& mix = rows[static_cast<std::size_t>(y)];
+        Places from;
+        for (std::size_t k = 0; k < kTaps; ++k) from[k] = wide_rows.At(mix.from[k]);
+        MixInto(mixed.data(), mix.weight, from, mixed.size());
+        if (image.hasAlphaChannel()) EndAtAlpha(mixed);
+        bytes = std::transform(mixed.begin(), mixed.end(), bytes, ToByte);
     }
-    return row;
 }
 
 }  // namespace
 
 QImage Enlarged(const QImage& image, QSize size) {
-    const std::vector<Mix> columns = Mixes(image.width(), size.width());
-    std::vector<std::vector<Pixel>> wide_rows;
-    for (int y = 0; y < image.height(); ++y) {
-        const std::vector<Pixel> row = Row(image, y);
-        std::vector<Pixel>& wide = wide_rows.emplace_back();
-        wide.reserve(columns.size());
-        for (const Mix& mix : columns) {
-            wide.push_back(
-                Mixed(mix, [&](int x) -> const Pixel& { return row[static_cast<std::size_t>(x)]; }));
-        }
-    }
-
     QImage enlarged(size, image.format());
-    const std::vector<Mix> rows = Mixes(image.height(), size.height());
-    for (int y = 0; y < size.height(); ++y) {
-        auto* line = reinterpret_cast<QRgb*>(enlarged.scanLine(y));
-        const Mix& mix = rows[static_cast<std::size_t>(y)];
-        for (std::size_t x = 0; x < columns.size(); ++x) {
-            line[x] = ToRgb(Mixed(
-                mix, [&](int from) -> const Pixel& { return wide_rows[static_cast<std::size_t>(from)][x]; }));
-        }
-    }
+    const int middle = size.height() >= kWorthAThread ? size.height() / 2 : 0;
+    std::uint8_t* const bytes = enlarged.bits();
+    std::jthread upper;
+    if (middle > 0) upper = std::jthread([=, &image] { EnlargeRows(image, size, bytes, 0, middle); });
+    EnlargeRows(image, size, bytes, middle, size.height());
     return enlarged;
 }

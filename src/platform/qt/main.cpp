@@ -1,10 +1,10 @@
-#include <QApplication>
-#include <QMessageBox>
+#include <QGuiApplication>
 #include <cstdio>
 #include <cstdlib>
 
 #include "platform/qt/page_window.h"
 #include "platform/qt/qt_platform.h"
+#include "platform/qt/report_window.h"
 #include "shell/program.h"
 #include "support/random.h"
 
@@ -21,7 +21,7 @@ void Report(const char* text) {
     ReportToErrorStream(text);
     const QString display = QGuiApplication::platformName();
     if (display == "offscreen" || display == "minimal") return;
-    QMessageBox::critical(nullptr, kName, QString::fromUtf8(text));
+    ReportWindow(kName, QString::fromUtf8(text)).Run();
 }
 
 // Without a display Qt would end the process in its own way.
@@ -52,7 +52,7 @@ int RunProgram(QtPlatform& platform) {
 int main(int, char** argv) {
     qInstallMessageHandler(HandleQtMessage);
     int only_the_name = 1;
-    QApplication application(only_the_name, argv);
+    QGuiApplication application(only_the_name, argv);
     QGuiApplication::setDesktopFileName("onze-tables");
     QtPlatform platform(FindExecutableFolder(argv[0]));
     int status = 1;

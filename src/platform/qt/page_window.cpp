@@ -102,7 +102,7 @@ void PageWindow::Paint(const QRect& part) {
     painter.scale(1 / devicePixelRatio(), 1 / devicePixelRatio());
     for (const QRect& bar : QRegion(part).subtracted(view.page())) painter.fillRect(bar, Qt::black);
     painter.setClipRect(part & view.page());
-    PainterCanvas canvas(painter, view, platform_.fonts());
+    PainterCanvas canvas(painter, view, platform_.fonts(), pictures_);
     stage_.Paint(canvas, view.Around(part));
 }
 

@@ -6,6 +6,7 @@
 #include <exception>
 
 #include "platform/qt/page_view.h"
+#include "platform/qt/scaled_pictures.h"
 
 class QtPlatform;
 class Stage;
@@ -47,6 +48,7 @@ class PageWindow final : public QRasterWindow {
     Stage& stage_;
     QtPlatform& platform_;
     QTimer timer_;
+    ScaledPictures pictures_;
     bool fills_screen_ = false;
     Point pointer_;
     int wheel_turned_ = 0;  // since the last whole notch, in eighths of a degree

@@ -25,7 +25,7 @@ void PainterCanvas::DrawPicture(const Picture& picture, Point top_left) {
     const auto& drawn = static_cast<const QtPicture&>(picture);
     const QSize size(view_.LengthToDevice(drawn.WidthInPixels() * kTwipsPerPixel),
                      view_.LengthToDevice(drawn.HeightInPixels() * kTwipsPerPixel));
-    painter_.drawImage(view_.ToDevice(top_left), drawn.AtSize(size));
+    painter_.drawImage(view_.ToDevice(top_left), pictures_.AtSize(drawn, size, view_.page().size()));
 }
 
 void PainterCanvas::FillBox(const Rect& box, Color color, int radius) {

@@ -3,6 +3,7 @@
 #include "forms/drawing.h"
 #include "platform/qt/page_fonts.h"
 #include "platform/qt/page_view.h"
+#include "platform/qt/scaled_pictures.h"
 
 class QPainter;
 class QPainterPath;
@@ -11,8 +12,8 @@ class QPainterPath;
 // and base lines lie on whole device pixels.
 class PainterCanvas final : public Canvas {
   public:
-    PainterCanvas(QPainter& painter, const PageView& view, PageFonts& fonts)
-        : painter_(painter), view_(view), fonts_(fonts) {}
+    PainterCanvas(QPainter& painter, const PageView& view, PageFonts& fonts, ScaledPictures& pictures)
+        : painter_(painter), view_(view), fonts_(fonts), pictures_(pictures) {}
 
     void DrawPicture(const Picture& picture, Point top_left) override;
     void FillBox(const Rect& box, Color color, int radius) override;
@@ -27,4 +28,5 @@ class PainterCanvas final : public Canvas {
     QPainter& painter_;
     PageView view_;
     PageFonts& fonts_;
+    ScaledPictures& pictures_;
 };

@@ -9,19 +9,16 @@
 
 class QtPicture final : public Picture {
   public:
-    explicit QtPicture(QImage image);
+    explicit QtPicture(QImage image) : image_(std::move(image)) {}
 
     int WidthInPixels() const override { return image_.width(); }
     int HeightInPixels() const override { return image_.height(); }
 
+    // As it was stored: a picture of few colours stays small.
     const QImage& image() const { return image_; }
-    // The picture at another size. The last size asked for is kept, so that a page is not scaled at every
-    // paint.
-    const QImage& AtSize(QSize size) const;
 
   private:
     QImage image_;
-    mutable QImage scaled_;
 };
 
 // Null when no picture can be read. Its format is recognised by the content.

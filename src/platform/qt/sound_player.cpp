@@ -1,10 +1,9 @@
 #include "platform/qt/sound_player.h"
 
-#include <SDL.h>
-#include <alsa/asoundlib.h>
-
 #include <chrono>
 #include <utility>
+
+#include "platform/qt/sdl.h"
 
 namespace {
 
@@ -19,42 +18,39 @@ constexpr Uint16 kBufferSamples = 1024;  // 23 ms at 44100 Hz
 // A wave file's samples.
 class Wave {
   public:
-    explicit Wave(const std::filesystem::path& file) {
-        if (!SDL_LoadWAV(file.c_str(), &spec, &bytes, &length)) bytes = nullptr;
+    Wave(const Sdl& sdl, const std::filesystem::path& file) : sdl_(sdl) {
+        if (!sdl.LoadWAV_RW(sdl.RWFromFile(file.c_str(), "rb"), 1, &spec, &bytes, &length)) bytes = nullptr;
     }
-    ~Wave() { SDL_FreeWAV(bytes); }
+    ~Wave() { sdl_.FreeWAV(bytes); }
     Wave(const Wave&) = delete;
     Wave& operator=(const Wave&) = delete;
 
     SDL_AudioSpec spec{};
     Uint8* bytes = nullptr;
     Uint32 length = 0;
-};
 
-void SayNothing(const char*, int, const char*, int, const char*, ...) {}
+  private:
+    const Sdl& sdl_;
+};
 
 // The sound device, open only while there is something to hear. SDL finds PipeWire, PulseAudio and ALSA by
 // itself, and lets a thread of ours wait for them; QSoundEffect waits in the event loop, which a sound server
 // that accepts and does not answer then stops for good.
 class Device {
   public:
-    Device() {
-        snd_lib_error_set_handler(SayNothing);
-        SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-        SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Onze Tables");
-    }
+    explicit Device(const Sdl& sdl) : sdl_(sdl) {}
     ~Device() {
         Close();
-        SDL_TLSCleanup();  // of a thread that SDL did not start
+        sdl_.TLSCleanup();  // of a thread that SDL did not start
     }
     Device(const Device&) = delete;
     Device& operator=(const Device&) = delete;
 
     bool IsOpen() const { return id_ != 0; }
-    void Silence() { SDL_ClearQueuedAudio(id_); }
+    void Silence() { sdl_.ClearQueuedAudio(id_); }
     void Play(const std::filesystem::path& file);
     void CloseIfSilent() {
-        if (SDL_GetQueuedAudioSize(id_) == 0) Close();
+        if (sdl_.GetQueuedAudioSize(id_) == 0) Close();
     }
 
   private:
@@ -62,6 +58,7 @@ class Device {
     void Open(const SDL_AudioSpec& spec);
     void Close();
 
+    const Sdl& sdl_;
     SDL_AudioDeviceID id_ = 0;
     SDL_AudioSpec spec_{};
     Clock::time_point retry_ = Clock::time_point::min();  // no device is looked for before
@@ -69,41 +66,41 @@ class Device {
 
 void Device::Play(const std::filesystem::path& file) {
     Silence();
-    const Wave wave(file);
+    const Wave wave(sdl_, file);
     if (!wave.bytes) return;
     if (!Takes(wave.spec)) {
         Close();
         Open(wave.spec);
     }
-    SDL_QueueAudio(id_, wave.bytes, wave.length);
-    SDL_PauseAudioDevice(id_, 0);
+    sdl_.QueueAudio(id_, wave.bytes, wave.length);
+    sdl_.PauseAudioDevice(id_, 0);
 }
 
 // A device that was unplugged has stopped by itself.
 bool Device::Takes(const SDL_AudioSpec& spec) const {
-    return IsOpen() && SDL_GetAudioDeviceStatus(id_) != SDL_AUDIO_STOPPED && spec.freq == spec_.freq &&
+    return IsOpen() && sdl_.GetAudioDeviceStatus(id_) != SDL_AUDIO_STOPPED && spec.freq == spec_.freq &&
            spec.format == spec_.format && spec.channels == spec_.channels;
 }
 
 void Device::Open(const SDL_AudioSpec& spec) {
     if (Clock::now() < retry_) return;
     retry_ = Clock::now() + kRetryTime;
-    if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) return;
+    if (sdl_.InitSubSystem(SDL_INIT_AUDIO) != 0) return;
     spec_ = spec;
     spec_.samples = kBufferSamples;
-    id_ = SDL_OpenAudioDevice(nullptr, 0, &spec_, nullptr, 0);
+    id_ = sdl_.OpenAudioDevice(nullptr, 0, &spec_, nullptr, 0);
     if (IsOpen()) {
         retry_ = Clock::time_point::min();
     } else {
-        SDL_QuitSubSystem(SDL_INIT_AUDIO);
+        sdl_.QuitSubSystem(SDL_INIT_AUDIO);
     }
 }
 
 void Device::Close() {
     if (!IsOpen()) return;
     Silence();  // closing waits for what is still to be heard
-    SDL_CloseAudioDevice(id_);
-    SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    sdl_.CloseAudioDevice(id_);
+    sdl_.QuitSubSystem(SDL_INIT_AUDIO);
     id_ = 0;
 }
 
@@ -120,7 +117,9 @@ void SoundPlayer::Ask(std::filesystem::path file) {
 }
 
 void SoundPlayer::Work(const std::stop_token& stop) {
-    Device device;
+    const Sdl sdl;
+    if (!sdl) return;
+    Device device(sdl);
     while (!stop.stop_requested()) {
         const auto request = NextRequest(stop, device.IsOpen());
         if (!request) {
