@@ -27,7 +27,7 @@ bool LacksGifEnd(std::string_view file) {
 bool LacksBmpEnd(std::string_view file) {
     if (file.size() < 6) return true;
     std::uint32_t size = 0;
-    for (const std::size_t at : {5, 4, 3, 2}) size = size << 8 | static_cast<unsigned char>(file[at]);
+    for (const std::size_t at : {5U, 4U, 3U, 2U}) size = size << 8 | static_cast<unsigned char>(file[at]);
     return file.size() < size;
 }
 

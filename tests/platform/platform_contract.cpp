@@ -238,19 +238,6 @@ TEST_P(PlatformContract, TimeIsTold) {
     }
 }
 
-TEST_P(RealPlatformContract, ItKnowsItsFolderAndItsScreen) {
-    bool found = false;
-    for (const char* program : {"contract_tests", "contract_tests.exe"}) {
-        found = found || fs::exists(platform().ExecutableFolder() / program);
-    }
-    EXPECT_TRUE(found) << platform().ExecutableFolder();
-
-    DisplayModeRecord record{};
-    ASSERT_NE(platform().EnumDisplaySettingsA(0, record) & 0xFFFF, 0);
-    EXPECT_GT(record.dmPelsWidth, 0U);
-    EXPECT_GT(record.dmPelsHeight, 0U);
-}
-
 TEST_P(RealPlatformContract, ItsClockCountsMilliseconds) {
     const std::int64_t before = platform().TickCount();
     std::this_thread::sleep_for(std::chrono::milliseconds(60));

@@ -1,15 +1,12 @@
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-#include <sys/stat.h>
+#include <unistd.h>
 
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 
 #include "platform/qt/local_time.h"
 #include "platform/qt/qt_platform.h"
 #include "platform/qt/replace_content.h"
-#include "support/run_time_error.h"
 
 namespace {
 
@@ -46,26 +43,6 @@ TEST_F(QtFiles, ReplacingKeepsPermissionsAndFollowsLinks) {
     EXPECT_TRUE(fs::is_symlink(folder / "link"));
     EXPECT_EQ(fs::status(folder / "18").permissions(), fs::perms(0640));
     EXPECT_EQ(Entries(), 2);
-}
-
-TEST_F(QtFiles, AFullDiskLeavesTheOldContentAlone) {
-    std::ofstream(folder / "18") << "old";
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit tight{10, before.rlim_max};
-    const auto old_handler = std::signal(SIGXFSZ, SIG_IGN);
-    setrlimit(RLIMIT_FSIZE, &tight);
-    std::string error;
-    try {
-        Replace(folder / "18", "longer than ten bytes");
-    } catch (const RunTimeError& caught) {
-        error = caught.what();
-    }
-    setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, old_handler);
-    EXPECT_NE(error.find("18"), std::string::npos);
-    EXPECT_EQ(Read(folder / "18"), "old");
-    EXPECT_EQ(Entries(), 1);
 }
 
 TEST_F(QtFiles, TheDataFolderIsLookedForBesideTheLinkFirst) {

@@ -10,7 +10,6 @@
 #include "forms/up_down.h"
 #include "platform/qt/page_window.h"
 #include "platform/qt/qt_platform.h"
-#include "support/run_time_error.h"
 
 namespace {
 
@@ -50,14 +49,6 @@ class QtWindow : public testing::Test {
                           false);
         QCoreApplication::sendEvent(&window, &event);
     }
-    // Runs the event loop after an event that ends it; its exit status.
-    template <class Event>
-    int RunUntilEnd(Event event) {
-        QTimer::singleShot(0, event);
-        QTimer::singleShot(5000, [] { QCoreApplication::exit(-1); });
-        return QCoreApplication::exec();
-    }
-
     QtPlatform platform{FindExecutableFolder({})};
     Stage stage{platform};
     Form form{stage};
@@ -65,14 +56,12 @@ class QtWindow : public testing::Test {
     Label button{form, {100_px, 100_px, 50_px, 20_px}, "OUI", {}};
     Label answer{form, {200_px, 100_px, 30_px, 20_px}, "??", {}};
     UpDown arrows{form, {240_px, 100_px, 20_px, 30_px}, {0, 1000}, answer};
-    Timer timer{stage};
     PageWindow window{stage, platform};
     int clicks = 0;
 };
 
 constexpr Point kOnButton{125_px, 110_px};
 constexpr Point kOnUpperHalf{250_px, 105_px};
-constexpr Point kOnPaper{320_px, 300_px};
 
 TEST_F(QtWindow, FillsTheScreenUntilTheOldSizeIsAskedFor) {
     EXPECT_TRUE(window.windowStates() & Qt::WindowFullScreen);
@@ -114,28 +103,6 @@ TEST_F(QtWindow, PaintsOnlyWhatChanged) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return probe.paints == 1; }));
     QTest::qWait(200);
     EXPECT_EQ(probe.paints, 1);
-}
-
-TEST_F(QtWindow, KeepsAnErrorForMain) {
-    button.on_click = [] { throw RunTimeError("Dépassement de capacité."); };
-    button.on_move = [this] { ++clicks; };
-    EXPECT_EQ(RunUntilEnd([this] {
-                  Click(kOnButton);
-                  QTest::mouseMove(&window, On(kOnButton));
-              }),
-              1);
-    EXPECT_THROW(window.RethrowFailure(), RunTimeError);
-    const int moves_before = clicks;
-    QTest::mouseMove(&window, On(kOnPaper));
-    QTest::mouseMove(&window, On(kOnButton));
-    EXPECT_EQ(clicks, moves_before) << "the page still gets events";
-}
-
-TEST_F(QtWindow, KeepsAnErrorOfATimerForMain) {
-    timer.on_timer = [] { throw RunTimeError("Dépassement de capacité."); };
-    timer.Start(10);
-    EXPECT_EQ(RunUntilEnd([this] { Click(kOnPaper); }), 1);
-    EXPECT_THROW(window.RethrowFailure(), RunTimeError);
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
 #include "support/pupil.h"
-#include "support/run_time_error.h"
 
 namespace {
 
@@ -36,24 +35,6 @@ TEST(Program, GivesEachScreenItsPicture) {
     }
 }
 
-TEST(Program, MissingFileStopsBeforeAnythingIsTouched) {
-    for (const char* missing : {"18", "11", "16"}) {
-        HeadlessPlatform platform;
-        ScriptedRandom random;
-        std::filesystem::remove(platform.folder / "datas" / missing);
-        Program program(platform, random);
-        try {
-            program.Load();
-            ADD_FAILURE() << "started without " << missing;
-        } catch (const RunTimeError& error) {
-            const std::string text = error.what();
-            EXPECT_TRUE(text.ends_with(std::string(missing) + " ».")) << text;
-        }
-        for (const std::string& call : platform.calls) EXPECT_TRUE(call.starts_with("load")) << call;
-        EXPECT_EQ(program.stage().front(), nullptr);
-    }
-}
-
 TEST(Program, QuitsInOrderWithTheSizeOfTheStart) {
     Pupil pupil;
     pupil.platform.calls.clear();
@@ -62,30 +43,6 @@ TEST(Program, QuitsInOrderWithTheSizeOfTheStart) {
     pupil.Click(pupil.screens.depart.fin);
     EXPECT_EQ(pupil.platform.calls,
               (Names{"stop", "start 5", "write 18"} + Change("1024x768") + kShowTaskbar + Names{"end"}));
-}
-
-TEST(Program, IdleRunChangesTheHeaderValueAlone) {
-    Pupil pupil;
-    std::string expected = pupil.platform.ReadData("18");
-    expected[2] = '\1';
-    pupil.Quit();
-    EXPECT_EQ(pupil.platform.ReadData("18"), expected);
-}
-
-TEST(Program, ChosenTableIsTheOnlyChange) {
-    Pupil pupil;
-    std::string expected = pupil.platform.ReadData("18");
-    expected[2] = '\1';
-    expected[72] = '\1';
-    for (const auto& draws : std::vector<std::vector<ScriptedDraw>>{
-             {kReseed, {2, 0}, {6, 0}, {6, 0}, kReseed, {2, 0}, {20, 0}, {14, 0}, {26, 0}},
-             {kReseed, {12, 1}, {12, 0}, {3, 0}}}) {
-        pupil.random.Expect(draws);
-    }
-    pupil.Click(pupil.screens.depart.chiffre[5]);
-    pupil.Click(pupil.screens.apprendre.retour);
-    pupil.Quit();
-    EXPECT_EQ(pupil.platform.ReadData("18"), expected);
 }
 
 }  // namespace
