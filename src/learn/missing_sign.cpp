@@ -57,7 +57,7 @@ MissingSignPanel::MissingSignPanel(Form& form, SharedState& shared) : Panel(shar
 
 void MissingSignPanel::NewMissingSignQuestion() {
     const SilentArrows silent(sounds());
-    ui.enonce4.SetCaption("Entrez le signe grâce aux flèches puis cliquez sur ce signe pour la correction.");
+    ui.enonce4.SetCaption(kChooseSign);
     ui.fleche5.SetValue(0);
     ui.fleche5.Show();
     ui.encore_quatre.Hide();

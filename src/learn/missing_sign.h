@@ -4,6 +4,9 @@
 
 #include "learn/panel.h"
 
+inline const std::string kChooseSign =
+    "Entrez le signe grâce aux flèches puis cliquez sur ce signe pour la correction.";
+
 // Two multiples of the table, the first the larger, whose sign is asked by their result and its factored
 // form.
 struct MissingSignQuestion {
@@ -35,7 +38,7 @@ class MissingSignPanel : private Panel {
     struct Ui {
         Form& form;
         //                     left    top      width   height
-        Label enonce4        { form, { 246_px, 396_px, 376_px, 48_px }, "",          kPanelMessage };
+        Label enonce4        { form, { 246_px, 396_px, 376_px, 48_px }, kChooseSign, kPanelMessage };
         Label chiffre5       { form, { 242_px, 366_px,  42_px, 22_px }, "",          Aligned(kPanelLine, Align::kRight) };
         Label signe          { form, { 288_px, 366_px,  28_px, 22_px }, "?",         kPanelAnswer };
         Label operation4     { form, { 344_px, 366_px, 196_px, 22_px }, "",          kPanelLine };

@@ -26,7 +26,8 @@ class Panel {
     SharedState& shared() const { return shared_; }
 
     void CountExercise();
-    // The verdict on an answer: its sound and its counter, in one order or the other.
+    // The verdict on an answer: its sound and its counter. A full counter stops the run at its point, so each
+    // exercise keeps to its own order.
     void SoundAndCount(bool right);
     void CountAndSound(bool right);
 

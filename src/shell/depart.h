@@ -9,7 +9,7 @@ class Depart {
   public:
     Depart(Platform& platform, Screens& screens, SharedState& shared);
 
-    // Prepares what the screen shows at start-up: date, time, no prompt yet.
+    // Prepares what the screen shows at start-up: date, time, the state of the first prompt.
     void Prepare();
 
   private:

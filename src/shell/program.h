@@ -8,6 +8,7 @@
 // The program from start-up to quit.
 class Program {
   public:
+    // Throws RunTimeError when the strip of digits cannot be read.
     Program(Platform& platform, Random& random);
 
     // Start-up; the start screen is shown when it returns. Throws RunTimeError, the taskbar and the display

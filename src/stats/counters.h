@@ -29,8 +29,7 @@ struct Counters {
 inline constexpr int kFirstTable = 2;
 inline constexpr int kStoredTables = 11;
 
-// Raises the element of a table, 2 to 12. Throws RunTimeError past 32,767, and for other tables
-// std::out_of_range.
+// Raises the element of a table, 2 to 12. Throws RunTimeError past 32,767.
 inline void Raise(Counters::PerTable& counters, int table, const char* name) {
     const int index = table - kFirstTable;
     Raise(counters.at(static_cast<std::size_t>(index)),

@@ -12,7 +12,8 @@ constexpr bool Between(Letter letter, Letter first, Letter last) {
 Letter Upper(Letter letter) {
     if (Between(letter, 0xE0, 0xFE) && letter != 0xF7) return letter - 0x20;
     if (Between(letter, 0x139, 0x148) || Between(letter, 0x179, 0x17E)) return letter - (letter % 2 == 0);
-    if (Between(letter, 0x100, 0x177) && letter != 0x131 && letter != 0x138) return letter - (letter % 2);
+    if (Between(letter, 0x100, 0x177) && letter != 0x131 && letter != 0x138 && letter != 0x149)
+        return letter - (letter % 2);
     if (Between(letter, 0x3B1, 0x3C9) && letter != 0x3C2) return letter - 0x20;
     if (Between(letter, 0x430, 0x44F)) return letter - 0x20;
     if (Between(letter, 0x450, 0x45F)) return letter - 0x50;

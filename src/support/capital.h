@@ -2,5 +2,6 @@
 
 #include <string>
 
-// A UTF-8 text with its first letter in upper case: Latin, Greek and Cyrillic letters are known, others stay.
+// A UTF-8 text with its first letter in upper case: those that day names of Latin, Greek and
+// Cyrillic writing begin with are known, others stay.
 std::string WithCapital(std::string text);

@@ -6,7 +6,8 @@
 // The number as it is spliced into questions and messages: one blank stands for the plus sign (" 7", "-3").
 std::string Str(long long number);
 
-// The number as the learning screen, the Pythagoras table and the report show it: bare digits ("7", "-3").
+// The number as the learning screen's answers, the Pythagoras table and the report show it: bare digits
+// ("7", "-3").
 std::string Digits(long long number);
 
 // The whole number at the start of a text: blanks are skipped wherever they stand, reading stops at the first

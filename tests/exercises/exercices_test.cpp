@@ -133,7 +133,7 @@ TEST(Exercices, EveryShowingAsksSixFreshQuestions) {
     pupil.Click(pupil.screen.fin);
     EXPECT_EQ(pupil.Heard(), Names{"3"});
     EXPECT_TRUE(pupil.Sees(pupil.screens.depart.form));
-    pupil.Open();
+    pupil.Open({}, pupil.screens.depart.Label3);
     EXPECT_EQ(pupil.Seen(), asked);
     // "NON" and the first note are answers as they stand; elsewhere nothing is entered.
     for (const Area& area : areas) pupil.Click(*area.wrong.back().clicked);

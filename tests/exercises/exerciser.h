@@ -30,14 +30,16 @@ class Exerciser : public Pupil {
         Open(draws);
     }
 
-    void Open(const SixDraws& draws = {}) {
+    void Open(const SixDraws& draws = {}) { Open(draws, screens.depart.exos); }
+    void Open(const SixDraws& draws, const Control& zone) {
         random.Expect({kReseed});
         for (const auto* six : {&draws.membership, &draws.product, &draws.factor_pair, &draws.missing_factor,
                                 &draws.factored_sum, &draws.note_factor}) {
             random.Expect(*six);
         }
-        Click(screens.depart.exos);
         Heard();
+        Click(zone);
+        EXPECT_EQ(Heard(), Names{"5"});
     }
 
     // Moves an arrow away and on to a value, so that something is entered in any case.

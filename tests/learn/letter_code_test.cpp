@@ -32,6 +32,9 @@ TEST(LetterCode, RightAndWrongLetters) {
 
         learner.random.Expect({{26, 1}});  // no reseeding
         learner.Click(ui.encore_trois);
+        EXPECT_TRUE(learner.Heard().empty());  // the arrow is set back in silence
+        EXPECT_FALSE(ui.encore_trois.visible());
+        EXPECT_EQ(ui.operation3.caption(), "X 7 = 14");
         EXPECT_EQ(ui.chiffre4.caption(), "A");
         EXPECT_TRUE(ui.fleche4.visible());
         EXPECT_EQ(ScoreOf(learner, 7), (Score{1, right, !right}));

@@ -43,6 +43,9 @@ TEST(MissingSign, EachSignRightAndWrong) {
             learner.Tap(ui.signe);
             learner.random.Expect({kReseed, {12, 1}, {12, 0}, {3, 0}});
             learner.Click(ui.encore_quatre);
+            EXPECT_TRUE(learner.Heard().empty());  // the arrow is set back in silence
+            EXPECT_FALSE(ui.encore_quatre.visible());
+            EXPECT_TRUE(ui.fleche5.visible());
             EXPECT_EQ(ui.signe.caption(), "?");
             EXPECT_EQ(ScoreOf(learner, c.table), (Score{1, right, !right}));
         }

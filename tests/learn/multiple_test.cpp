@@ -96,6 +96,9 @@ TEST(Multiple, SecondStepAsksForTheProduct) {
             (c.right ? "Bravo ! Les 2 opérations sont justes !" : "Erreur ! 5 X 7 = 14 + 21 = 35") + kGoOn);
         Showed(ui, false, true, false, true);
         learner.Tap(ui.chiffre2);
+        learner.random.Expect(kMultipleOf7);
+        learner.Click(ui.encore_deux);
+        EXPECT_TRUE(learner.Heard().empty());  // both arrows are set back in silence
         EXPECT_EQ(ScoreOf(learner, 7), (Score{1, c.right, !c.right}));
     }
 }

@@ -79,6 +79,21 @@ TEST_F(QtWindow, TakesAFingerForThePointer) {
     EXPECT_EQ(clicks, 1);
 }
 
+TEST_F(QtWindow, TakesADoubleClickForTwoClicks) {
+    QTest::mouseDClick(&window, Qt::LeftButton, {}, On(kOnUpperHalf));
+    EXPECT_EQ(arrows.value(), 2);
+}
+
+TEST_F(QtWindow, TakesNothingOnceTheProgramHasEnded) {
+    button.on_click = [this] {
+        ++clicks;
+        platform.EndProgram();
+    };
+    Click(kOnButton);
+    Click(kOnButton);
+    EXPECT_EQ(clicks, 1);
+}
+
 TEST_F(QtWindow, StepsTheWheelByWholeNotches) {
     TurnWheel(kOnUpperHalf, 240);
     EXPECT_EQ(arrows.value(), 2);

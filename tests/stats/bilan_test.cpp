@@ -34,16 +34,6 @@ TEST_F(BilanTest, EveryCounterInItsPlace) {
     EXPECT_EQ(screen.n_exof.caption(), "12");
 }
 
-TEST_F(BilanTest, ColumnsStandUnderTheirHeadings) {
-    const auto middle = [](const Label& label) { return label.box().left + label.box().width / 2; };
-    EXPECT_EQ(middle(screen.consult[0]), middle(screen.Label2));
-    EXPECT_EQ(middle(screen.exos[10]), middle(screen.Label3));
-    EXPECT_EQ(middle(screen.juste[0]), middle(screen.Label5));
-    EXPECT_EQ(middle(screen.faux[10]), middle(screen.Label6));
-    EXPECT_EQ(screen.consult[0].box(), (Rect{246_px, 192_px, 63_px, 28_px}));
-    EXPECT_EQ(screen.faux[10].box(), (Rect{425_px, 454_px, 63_px, 28_px}));
-}
-
 TEST_F(BilanTest, SentencesAndTheWordForTries) {
     const struct {
         int solves;

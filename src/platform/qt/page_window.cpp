@@ -45,7 +45,7 @@ void PageWindow::RethrowFailure() const {
 
 template <class Step>
 void PageWindow::Run(Step step) {
-    if (failure_) return;
+    if (failure_ || platform_.ended()) return;
     try {
         step();
     } catch (...) {

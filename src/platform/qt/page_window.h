@@ -27,7 +27,6 @@ class PageWindow final : public QRasterWindow {
     void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
     void wheelEvent(QWheelEvent* event) override;
 
   private:

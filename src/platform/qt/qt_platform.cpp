@@ -88,5 +88,6 @@ std::int64_t QtPlatform::TickCount() const {
 }
 
 void QtPlatform::EndProgram() {
+    ended_ = true;
     QCoreApplication::exit(0);
 }

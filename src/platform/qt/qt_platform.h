@@ -37,10 +37,13 @@ class QtPlatform final : public Platform {
     // Whether a display of the page's own size was asked for: the page then fills the screen, whose real size
     // never changes.
     bool fills_screen() const { return fills_screen_; }
+    // Whether the program has ended: nothing that still comes in counts.
+    bool ended() const { return ended_; }
 
   private:
     std::filesystem::path folder_;
     PageFonts fonts_;
     SoundPlayer sounds_;
     bool fills_screen_ = false;
+    bool ended_ = false;
 };
