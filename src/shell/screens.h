@@ -2,7 +2,7 @@
 
 #include "exercises/exercices.h"
 #include "learn/apprendre.h"
-#include "lessons/leçon.h"
+#include "lessons/lecon.h"
 #include "pythagoras/pythagore.h"
 #include "shell/depart_ui.h"
 #include "shell/divers.h"

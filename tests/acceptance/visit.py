@@ -13,7 +13,7 @@ STOPS = {
     "apprendre": (at.TABLE_OF_7, at.LEARNING),
     "exercices": (at.EXERCISES, at.EXERCISES_SCREEN),
     "pythagore": (at.PYTHAGORAS, at.PYTHAGORAS_SCREEN),
-    "leçon": (at.LESSONS, at.LESSONS_SCREEN),
+    "lecon": (at.LESSONS, at.LESSONS_SCREEN),
     "bilan": (at.REPORT, at.REPORT_SCREEN),
 }
 

@@ -1,4 +1,4 @@
-#include "lessons/leçon.h"
+#include "lessons/lecon.h"
 
 #include <regex>
 
