@@ -54,8 +54,8 @@ class Platform {
     virtual void StartSound(const std::filesystem::path& file) = 0;
 
     // Replaces the content of a file (or creates it): whatever happens meanwhile, the file holds its old
-    // bytes or the new ones, whole. Throws RunTimeError, the old content being kept, when that cannot be
-    // done.
+    // bytes or the new ones, whole. Where nothing can be made beside the file its bytes are overwritten in
+    // place. Throws RunTimeError when that cannot be done either.
     virtual void ReplaceContent(const std::filesystem::path& file, std::span<const std::byte> bytes) = 0;
 
     // The declared system calls of start-up and quit. A system without them answers "no such window" and

@@ -211,6 +211,14 @@ TEST_P(PlatformContract, AFailedReplacementChangesNothing) {
     EXPECT_EQ(FilesInFolder(), 1);
 }
 
+// A neighbour's name would be too long here.
+TEST_P(RealPlatformContract, WhereNothingFitsBesideTheFileItIsWrittenInPlace) {
+    const fs::path file = Write(std::string(250, 'n'), "old, and longer");
+    platform().ReplaceContent(file, tiny::AsBytes("new"));
+    EXPECT_EQ(Read(file), "new, and longer");
+    EXPECT_EQ(FilesInFolder(), 1);
+}
+
 TEST_P(PlatformContract, SystemCallsAnswer) {
     const Platform::WindowHandle nothing = platform().FindWindowA("OnzeTablesNoSuchClass", "");
     EXPECT_EQ(nothing, 0U);

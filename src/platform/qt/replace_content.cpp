@@ -14,6 +14,15 @@ namespace {
 
 constexpr mode_t kPermissions = 07777;
 
+bool WriteToDisk(int descriptor, std::span<const std::byte> bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = write(descriptor, bytes.data(), bytes.size());
+        if (written < 0 && errno != EINTR) return false;
+        if (written > 0) bytes = bytes.subspan(static_cast<std::size_t>(written));
+    }
+    return fsync(descriptor) == 0;
+}
+
 // A file beside the one to replace; it goes away again unless it took its place.
 class NewFile {
   public:
@@ -28,8 +37,7 @@ class NewFile {
     NewFile& operator=(const NewFile&) = delete;
 
     bool Fill(std::span<const std::byte> bytes, mode_t permissions) {
-        return descriptor_ >= 0 && Write(bytes) && fchmod(descriptor_, permissions) == 0 &&
-               fsync(descriptor_) == 0;
+        return descriptor_ >= 0 && fchmod(descriptor_, permissions) == 0 && WriteToDisk(descriptor_, bytes);
     }
     bool MoveTo(const std::filesystem::path& file) {
         moved_ = rename(name_.c_str(), file.c_str()) == 0;
@@ -37,15 +45,6 @@ class NewFile {
     }
 
   private:
-    bool Write(std::span<const std::byte> bytes) {
-        while (!bytes.empty()) {
-            const ssize_t written = write(descriptor_, bytes.data(), bytes.size());
-            if (written < 0 && errno != EINTR) return false;
-            if (written > 0) bytes = bytes.subspan(static_cast<std::size_t>(written));
-        }
-        return true;
-    }
-
     std::string name_;
     int descriptor_;
     bool moved_ = false;
@@ -64,14 +63,26 @@ void FlushFolder(const std::filesystem::path& folder) {
     close(descriptor);
 }
 
+bool Replace(const std::filesystem::path& file, std::span<const std::byte> bytes) {
+    NewFile replacement(file);
+    if (!replacement.Fill(bytes, PermissionsOf(file)) || !replacement.MoveTo(file)) return false;
+    FlushFolder(file.parent_path());
+    return true;
+}
+
+// Bytes that are there already take no room, so this works on a full disk, too.
+bool WriteInPlace(const std::filesystem::path& file, std::span<const std::byte> bytes) {
+    const int descriptor = open(file.c_str(), O_WRONLY | O_CLOEXEC);
+    if (descriptor < 0) return false;
+    const bool written = WriteToDisk(descriptor, bytes);
+    return close(descriptor) == 0 && written;
+}
+
 }  // namespace
 
 void ReplaceContent(const std::filesystem::path& file, std::span<const std::byte> bytes) {
     std::error_code broken;
     const auto target = std::filesystem::weakly_canonical(file, broken);
-    NewFile replacement(target);
-    if (broken || !replacement.Fill(bytes, PermissionsOf(target)) || !replacement.MoveTo(target)) {
+    if (broken || !(Replace(target, bytes) || WriteInPlace(target, bytes)))
         throw FileError("Enregistrement impossible", file);
-    }
-    FlushFolder(target.parent_path());
 }

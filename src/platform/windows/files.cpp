@@ -18,8 +18,8 @@ FileHandle Open(const std::filesystem::path& file, DWORD access, DWORD share, DW
     return FileHandle(handle == INVALID_HANDLE_VALUE ? nullptr : handle);
 }
 
-bool WriteToDisk(const std::filesystem::path& file, std::span<const std::byte> bytes) {
-    const FileHandle handle = Open(file, GENERIC_WRITE, 0, CREATE_ALWAYS);
+bool WriteToDisk(const std::filesystem::path& file, DWORD disposition, std::span<const std::byte> bytes) {
+    const FileHandle handle = Open(file, GENERIC_WRITE, 0, disposition);
     DWORD written = 0;
     return handle &&
            WriteFile(handle.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
@@ -42,10 +42,11 @@ std::optional<std::vector<std::byte>> ReadWholeFile(const std::filesystem::path&
 bool ReplaceWholeFile(const std::filesystem::path& file, std::span<const std::byte> bytes) {
     std::filesystem::path beside = file;
     beside += L".nouveau";
-    if (WriteToDisk(beside, bytes) &&
+    if (WriteToDisk(beside, CREATE_ALWAYS, bytes) &&
         MoveFileExW(beside.c_str(), file.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
         return true;
     }
     DeleteFileW(beside.c_str());
-    return false;
+    // Bytes that are there already take no room, so this works on a full disk, too.
+    return WriteToDisk(file, OPEN_EXISTING, bytes);
 }
