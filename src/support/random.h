@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <random>
 
 // The source of all draws. Draw(k) + c is a whole number from c to c + k - 1.
@@ -15,9 +16,16 @@ class Random {
 
 class ClockRandom final : public Random {
   public:
+    using Clock = std::int64_t (*)();  // any unit
+    explicit ClockRandom(Clock clock = SystemClock) : clock_(clock) {}
+
     void Randomize() override;
     int Draw(int bound) override;
 
   private:
+    static std::int64_t SystemClock();
+
+    Clock clock_;
+    std::uint32_t reseedings_ = 0;
     std::minstd_rand engine_;
 };
