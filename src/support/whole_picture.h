@@ -2,7 +2,23 @@
 
 #include <cstddef>
 #include <span>
+#include <vector>
 
-// Whether a PNG, JPEG, GIF or BMP file ends before its picture does: loaders take such a file for the half of
-// the picture that it still holds. Of other formats nothing is known.
-bool IsCutShort(std::span<const std::byte> picture);
+// Whether a file is a PNG file, and whether such a file has its end. What follows the end does not matter.
+bool IsPng(std::span<const std::byte> file);
+bool HasPngEnd(std::span<const std::byte> file);
+
+// The picture, a shared pointer, that decode() makes of a file; null when it can make none or when the file
+// ends before its picture does. Loaders make up what a file lacks. A PNG file tells its end; in other formats
+// what is made up changes with the bytes that follow.
+template <class Decode>
+auto DecodeWhole(std::span<const std::byte> file, Decode decode) {
+    using Pointer = decltype(decode(file));
+    if (IsPng(file)) return HasPngEnd(file) ? decode(file) : Pointer();
+    const Pointer picture = decode(file);
+    if (!picture) return picture;
+    std::vector<std::byte> longer(file.begin(), file.end());
+    longer.insert(longer.end(), 1024, std::byte{0x55});
+    const Pointer again = decode(std::span<const std::byte>(longer));
+    return again && *again == *picture ? picture : Pointer();
+}

@@ -5,8 +5,9 @@
 
 #include "support/whole_picture.h"
 
-std::shared_ptr<const QtPicture> DecodePicture(std::span<const std::byte> bytes) {
-    if (IsCutShort(bytes)) return nullptr;
+namespace {
+
+std::shared_ptr<const QtPicture> Decode(std::span<const std::byte> bytes) {
     QByteArray content = QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
                                                  static_cast<qsizetype>(bytes.size()));
     QBuffer device(&content);
@@ -14,4 +15,10 @@ std::shared_ptr<const QtPicture> DecodePicture(std::span<const std::byte> bytes)
     reader.setDecideFormatFromContent(true);
     QImage image = reader.read();
     return image.isNull() ? nullptr : std::make_shared<const QtPicture>(std::move(image));
+}
+
+}  // namespace
+
+std::shared_ptr<const QtPicture> DecodePicture(std::span<const std::byte> bytes) {
+    return DecodeWhole(bytes, Decode);
 }

@@ -17,9 +17,11 @@ class QtPicture final : public Picture {
     // As it was stored: a picture of few colours stays small.
     const QImage& image() const { return image_; }
 
+    friend bool operator==(const QtPicture& a, const QtPicture& b) { return a.image_ == b.image_; }
+
   private:
     QImage image_;
 };
 
-// Null when no picture can be read. Its format is recognised by the content.
+// Null when no picture can be read, or not the whole of it. Its format is recognised by the content.
 std::shared_ptr<const QtPicture> DecodePicture(std::span<const std::byte> bytes);

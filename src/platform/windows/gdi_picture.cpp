@@ -35,12 +35,18 @@ std::shared_ptr<GdiPicture> GdiPicture::Clip(int x, int y, int width, int height
 }
 
 void GdiPicture::NoteOpacity() {
-    const auto pixels = std::span(bitmap_.Row(0), bitmap_.Row(bitmap_.height()));
-    opaque_ = std::ranges::all_of(pixels, [](std::uint32_t pixel) { return pixel >> 24 == 0xFF; });
+    opaque_ = std::ranges::all_of(Pixels(), [](std::uint32_t pixel) { return pixel >> 24 == 0xFF; });
 }
 
-std::shared_ptr<GdiPicture> DecodePicture(std::span<const std::byte> bytes) {
-    if (IsCutShort(bytes)) return nullptr;
+std::span<const std::uint32_t> GdiPicture::Pixels() const {
+    return {bitmap_.Row(0), bitmap_.Row(bitmap_.height())};
+}
+
+bool operator==(const GdiPicture& a, const GdiPicture& b) {
+    return a.WidthInPixels() == b.WidthInPixels() && std::ranges::equal(a.Pixels(), b.Pixels());
+}
+
+std::shared_ptr<GdiPicture> GdiPicture::Decode(std::span<const std::byte> bytes) {
     const std::unique_ptr<IStream, Releaser> stream(
         SHCreateMemStream(reinterpret_cast<const BYTE*>(bytes.data()), static_cast<UINT>(bytes.size())));
     if (!stream) return nullptr;
@@ -62,4 +68,8 @@ std::shared_ptr<GdiPicture> DecodePicture(std::span<const std::byte> bytes) {
     source.UnlockBits(&data);
     picture->NoteOpacity();
     return picture;
+}
+
+std::shared_ptr<GdiPicture> DecodePicture(std::span<const std::byte> bytes) {
+    return DecodeWhole(bytes, GdiPicture::Decode);
 }

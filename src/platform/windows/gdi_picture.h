@@ -18,8 +18,13 @@ class GdiPicture final : public Picture {
     // The part of it that lies inside it whole.
     std::shared_ptr<GdiPicture> Clip(int x, int y, int width, int height) const;
 
+    // Whatever the system's loader can make of a file; null for nothing.
+    static std::shared_ptr<GdiPicture> Decode(std::span<const std::byte> bytes);
+
+    friend bool operator==(const GdiPicture& a, const GdiPicture& b);
+
   private:
-    friend std::shared_ptr<GdiPicture> DecodePicture(std::span<const std::byte> bytes);
+    std::span<const std::uint32_t> Pixels() const;
     void NoteOpacity();
 
     GdiBitmap bitmap_;
@@ -27,5 +32,5 @@ class GdiPicture final : public Picture {
 };
 
 // The picture in a file of any format that the system's loader knows, by content; null when it cannot be
-// read. GDI+ must be started.
+// read, or not the whole of it. GDI+ must be started.
 std::shared_ptr<GdiPicture> DecodePicture(std::span<const std::byte> bytes);
