@@ -28,6 +28,8 @@ void Form::Damage(const Rect& box) const {
 }
 
 void Form::Paint(Canvas& canvas, const Rect& clip) const {
+    // A picture may be smaller than the page, or let through what lies under it.
+    canvas.FillBox({0, 0, kPageWidth, kPageHeight}, {255, 255, 255}, 0);
     if (picture_) canvas.DrawPicture(*picture_, {0, 0});
     for (const Control* control : controls_) {
         if (control->visible() && control->Painted().Meets(clip)) control->Paint(canvas);

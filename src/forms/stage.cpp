@@ -25,7 +25,7 @@ void Stage::Show(Form& form) {
 }
 
 void Stage::Hide(Form& form) {
-    if (front() == &form) LetGo();
+    if (front() == &form) CancelPress();
     std::erase(shown_, &form);
     AddDamage({0, 0, kPageWidth, kPageHeight});
 }
@@ -38,10 +38,20 @@ void Stage::Move(Point point) {
     if (handler) handler();
 }
 
-void Stage::Press(Point point) {
+bool Stage::ContinuesGesture(Point point, const DoubleClick& rule) const {
+    const std::int64_t pause = rule.pressed_at - last_pressed_at_;
+    return gesture_page_ && pause >= 0 && pause <= rule.time &&
+           std::abs(point.x - last_press_.x) <= rule.distance &&
+           std::abs(point.y - last_press_.y) <= rule.distance;
+}
+
+void Stage::Press(Point point, const DoubleClick& rule) {
     pointer_ = point;
-    LetGo();
-    if (!front()) return;
+    CancelPress();
+    if (!ContinuesGesture(point, rule)) gesture_page_ = front();
+    last_press_ = point;
+    last_pressed_at_ = rule.pressed_at;
+    if (!front() || front() != gesture_page_) return;
     pressed_ = front()->ControlAt(point);
     held_ = dynamic_cast<UpDown*>(pressed_);
     if (!held_) return;
@@ -54,12 +64,14 @@ void Stage::Press(Point point) {
 void Stage::Release(Point point) {
     pointer_ = point;
     Control* const pressed = pressed_;
-    LetGo();
+    CancelPress();
     if (!pressed || !front() || front()->ControlAt(point) != pressed) return;
+    const Form* const page = front();
     if (pressed->on_click) pressed->on_click();
+    if (front() != page) Move(point);  // which the page shown now has not been told
 }
 
-void Stage::LetGo() {
+void Stage::CancelPress() {
     if (held_) held_->SetHeldHalf(0);
     pressed_ = nullptr;
     held_ = nullptr;

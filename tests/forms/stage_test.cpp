@@ -171,4 +171,81 @@ TEST_F(StageTest, TimersRunWhenDueAndOnlyThen) {
     EXPECT_EQ(stage.NextDue(), std::nullopt);
 }
 
+TEST_F(StageTest, ALostPointerEndsThePress) {
+    stage.Press(kUpperHalf);
+    stage.CancelPress();
+    EXPECT_EQ(stage.NextDue(), std::nullopt);
+    stage.Press(kOnButton);
+    stage.CancelPress();
+    stage.Release(kOnButton);
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(StageTest, TheNewPageIsToldWhereThePointerIs) {
+    Form other(stage);
+    Point moved_to_other{};
+    other.on_move = [&] { moved_to_other = kOnButton; };
+    form.on_move = [] { ADD_FAILURE() << "the page before was told"; };
+    button.on_click = [&] { other.Show(), form.Hide(); };
+    stage.Press(kOnButton);
+    EXPECT_EQ(moved_to_other, Point());
+    stage.Release(kOnButton);
+    EXPECT_EQ(moved_to_other, kOnButton);
+}
+
+// A page whose button opens another page, where another button lies in the same place.
+class DoubleClicks : public StageTest {
+  protected:
+    DoubleClicks() {
+        button.on_click = [this] { other.Show(), form.Hide(); };
+        there.on_click = [this] { ++clicks; };
+    }
+
+    // A press within 500 ms and 2 pixels of the one before goes with it.
+    void Click(Point point, std::int64_t time) {
+        stage.Press(point, {.pressed_at = time, .time = 500, .distance = 2_px});
+        stage.Release(point);
+    }
+
+    Form other{stage};
+    Label there{other, {100_px, 100_px, 50_px, 20_px}, "SORTIE", {}};
+};
+
+TEST_F(DoubleClicks, OneGestureIsForOnePage) {
+    const struct {
+        Point second;
+        std::int64_t pause;
+        int counted;
+    } cases[] = {{kOnButton, 0, 0},
+                 {kOnButton, 500, 0},
+                 {kOnButton, 501, 1},
+                 {kOnButton, -1, 1},  // the system's clock has begun anew
+                 {{112_px, 108_px}, 500, 0},
+                 {{112_px + 1, 110_px}, 100, 1},
+                 {{110_px, 108_px - 1}, 100, 1}};
+    for (const auto& [second, pause, counted] : cases) {
+        SCOPED_TRACE(pause);
+        clicks = 0;
+        form.Show(), other.Hide();
+        Click(kOnButton, 10'000);
+        Click(second, 10'000 + pause);
+        EXPECT_EQ(clicks, counted);
+    }
+}
+
+TEST_F(DoubleClicks, EveryFurtherPressGoesWithTheOneBefore) {
+    Click(kOnButton, 10'000);
+    for (int i = 1; i <= 5; ++i) Click(kOnButton, 10'000 + 400 * i);
+    EXPECT_EQ(clicks, 0);
+    Click(kOnButton, 13'000);
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(DoubleClicks, OnOnePageTwoClicksStayTwo) {
+    form.Hide(), other.Show();
+    Click(kOnButton, 0);
+    Click(kOnButton, 100);
+    EXPECT_EQ(clicks, 2);
+}
+
 }  // namespace

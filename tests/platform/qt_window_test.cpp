@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QStyleHints>
 #include <QWheelEvent>
 #include <QtTest/QTest>
 
@@ -118,6 +119,34 @@ TEST_F(QtWindow, PaintsOnlyWhatChanged) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return probe.paints == 1; }));
     QTest::qWait(200);
     EXPECT_EQ(probe.paints, 1);
+}
+
+TEST_F(QtWindow, EndsAPressThatItCannotFinish) {
+    QFocusEvent focus_lost(QEvent::FocusOut);
+    QTest::mousePress(&window, Qt::LeftButton, {}, On(kOnUpperHalf));
+    EXPECT_TRUE(stage.NextDue());
+    QCoreApplication::sendEvent(&window, &focus_lost);
+    EXPECT_FALSE(stage.NextDue());
+    QTest::mouseRelease(&window, Qt::LeftButton, {}, On(kOnUpperHalf));
+
+    QTest::mousePress(&window, Qt::LeftButton, {}, On(kOnUpperHalf));
+    QMouseEvent moved(QEvent::MouseMove, On(kOnUpperHalf), On(kOnUpperHalf), Qt::NoButton, {}, {});
+    QCoreApplication::sendEvent(&window, &moved);
+    EXPECT_FALSE(stage.NextDue());
+    QTest::mouseRelease(&window, Qt::LeftButton, {}, On(kOnUpperHalf));
+}
+
+TEST_F(QtWindow, TakesADoubleClickForOnePageOnly) {
+    Form next(stage);
+    Label there(next, {100_px, 100_px, 50_px, 20_px}, "SORTIE", {});
+    there.on_click = [this] { ++clicks; };
+    button.on_click = [&] { next.Show(), form.Hide(); };
+    QTest::mouseDClick(&window, Qt::LeftButton, {}, On(kOnButton));
+    EXPECT_TRUE(next.visible());
+    EXPECT_EQ(clicks, 0);
+    QTest::mouseClick(&window, Qt::LeftButton, {}, On(kOnButton),
+                      10 * QGuiApplication::styleHints()->mouseDoubleClickInterval());
+    EXPECT_EQ(clicks, 1);
 }
 
 }  // namespace

@@ -4,12 +4,12 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
+#include <QStyleHints>
 #include <QTransform>
 #include <QWheelEvent>
 #include <algorithm>
 #include <chrono>
 
-#include "forms/stage.h"
 #include "platform/qt/painter_canvas.h"
 #include "platform/qt/qt_platform.h"
 
@@ -74,11 +74,15 @@ void PageWindow::Follow() {
 }
 
 void PageWindow::mouseMoveEvent(QMouseEvent* event) {
-    Handle([&] { stage_.Move(PointAt(*event)); });
+    Handle([&] {
+        if (!(event->buttons() & Qt::LeftButton)) stage_.CancelPress();  // whose release went elsewhere
+        stage_.Move(PointAt(*event));
+    });
 }
 
 void PageWindow::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton) Handle([&] { stage_.Press(PointAt(*event)); });
+    if (event->button() != Qt::LeftButton) return;
+    Handle([&] { stage_.Press(PointAt(*event), DoubleClickRule(*event)); });
 }
 
 void PageWindow::mouseReleaseEvent(QMouseEvent* event) {
@@ -90,6 +94,10 @@ void PageWindow::wheelEvent(QWheelEvent* event) {
     const int notches = wheel_turned_ / kNotch;
     wheel_turned_ %= kNotch;
     if (notches != 0) Handle([&] { stage_.Wheel(PointAt(*event), notches); });
+}
+
+void PageWindow::focusOutEvent(QFocusEvent*) {
+    Handle([&] { stage_.CancelPress(); });
 }
 
 void PageWindow::paintEvent(QPaintEvent* event) {
@@ -113,6 +121,15 @@ PageView PageWindow::View() const {
 Point PageWindow::PointAt(const QSinglePointEvent& event) {
     pointer_ = View().ToPage(event.position() * devicePixelRatio());
     return pointer_;
+}
+
+DoubleClick PageWindow::DoubleClickRule(const QSinglePointEvent& event) const {
+    const QStyleHints& hints = *QGuiApplication::styleHints();
+    const bool finger = event.deviceType() == QInputDevice::DeviceType::TouchScreen;
+    const int pixels = finger ? hints.touchDoubleTapDistance() : hints.mouseDoubleClickDistance();
+    return {.pressed_at = static_cast<std::int64_t>(event.timestamp()),
+            .time = hints.mouseDoubleClickInterval(),
+            .distance = qRound(pixels * devicePixelRatio() / View().scale())};
 }
 
 QRect PageWindow::ToLogical(const QRect& device) const {

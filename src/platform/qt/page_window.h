@@ -5,11 +5,11 @@
 #include <QTimer>
 #include <exception>
 
+#include "forms/stage.h"
 #include "platform/qt/page_view.h"
 #include "platform/qt/scaled_pictures.h"
 
 class QtPlatform;
-class Stage;
 
 // The one window: it shows the page, brings events to it and wakes up when one of its timers is due. An error
 // in any of them ends the event loop, to be rethrown outside of it.
@@ -28,6 +28,7 @@ class PageWindow final : public QRasterWindow {
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
   private:
     // Runs a step, keeping an error that it throws from the event loop.
@@ -41,6 +42,7 @@ class PageWindow final : public QRasterWindow {
 
     PageView View() const;
     Point PointAt(const QSinglePointEvent& event);
+    DoubleClick DoubleClickRule(const QSinglePointEvent& event) const;
     QRect ToLogical(const QRect& device) const;
     QRect ToDevice(const QRect& logical) const;
 

@@ -29,6 +29,10 @@ void PainterCanvas::DrawPicture(const Picture& picture, Point top_left) {
 }
 
 void PainterCanvas::FillBox(const Rect& box, Color color, int radius) {
+    if (radius == 0) {
+        painter_.fillRect(view_.ToDevice(box), ToQt(color));
+        return;
+    }
     QPainterPath path;
     const double round = radius * view_.scale();
     path.addRoundedRect(view_.ToDevice(box), round, round);

@@ -182,7 +182,10 @@ void Window::Paint() {
 void Window::Press(Point point) {
     SetCapture(handle_);
     pressed_ = true;
-    stage_.Press(point);
+    const int across = std::max(GetSystemMetrics(SM_CXDOUBLECLK), GetSystemMetrics(SM_CYDOUBLECLK));
+    stage_.Press(point, {.pressed_at = GetMessageTime(),
+                         .time = GetDoubleClickTime(),
+                         .distance = across * kTwipsPerPixel / 2});
 }
 
 void Window::Release(Point point) {
@@ -192,9 +195,10 @@ void Window::Release(Point point) {
     stage_.Release(point);
 }
 
-// Another window took the pointer while the button was down: that is no click.
 void Window::LoseCapture() {
-    Release({-1, -1});
+    if (!pressed_) return;
+    pressed_ = false;
+    stage_.CancelPress();
 }
 
 void Window::Wheel(WPARAM wparam, LPARAM lparam) {
