@@ -16,7 +16,7 @@ struct PaintedLine {
     friend bool operator==(const PaintedLine&, const PaintedLine&) = default;
 };
 
-class PlaceCanvas final : public TextCanvas {
+class PlaceCanvas final : public BlankCanvas {
   public:
     void DrawTextLine(Point at, std::string_view line, const Font& font, Color) override {
         lines.push_back({at, std::string(line), font.height});
@@ -54,24 +54,24 @@ TEST_F(LabelTest, WrapsAtBlanksAndBreaksAtCarriageReturns) {
 TEST_F(LabelTest, MarksAndProductsStayTogether) {
     const auto lines = Painted({0, 0, 500, 600}, "multiple 7 ? non !", {.font = {100}});
     EXPECT_EQ(lines, (std::vector<PaintedLine>{{{0, 0}, "multiple", 100}, {{0, 120}, "7 ? non !", 100}}));
-    EXPECT_EQ(Painted({0, 0, 450, 600}, "un deux ? !", {.font = {100}})[1].text, "deux ? !");
-    EXPECT_EQ(Painted({0, 0, 450, 600}, "28 = 4 X 7 = 28", {.font = {100}})[1].text, "4 X 7 =");
+    EXPECT_EQ(Painted({0, 0, 450, 600}, "un deux ? !", {.font = {100}}).at(1).text, "deux ? !");
+    EXPECT_EQ(Painted({0, 0, 450, 600}, "28 = 4 X 7 = 28", {.font = {100}}).at(1).text, "4 X 7 =");
 }
 
 TEST_F(LabelTest, AlignsInItsBox) {
     const Rect box{1000, 1000, 1000, 500};
-    EXPECT_EQ(Painted(box, "ab", {.font = {100}, .align = Align::kCenter, .middle = true})[0].at,
+    EXPECT_EQ(Painted(box, "ab", {.font = {100}, .align = Align::kCenter, .middle = true}).at(0).at,
               (Point{1450, 1190}));
-    EXPECT_EQ(Painted(box, "ab", {.font = {100}, .align = Align::kRight})[0].at, (Point{1900, 1000}));
+    EXPECT_EQ(Painted(box, "ab", {.font = {100}, .align = Align::kRight}).at(0).at, (Point{1900, 1000}));
 }
 
 TEST_F(LabelTest, TextThatDoesNotFitIsDrawnSmaller) {
     const auto one_word = Painted({0, 0, 400, 1000}, "ABCDEFGHIJ", {.font = {100}});
     EXPECT_EQ(one_word, (std::vector<PaintedLine>{{{0, 0}, "ABCDEFGHIJ", 80}}));
     const auto too_many_lines = Painted({0, 0, 1000, 230}, "a\rb", {.font = {100}});
-    EXPECT_EQ(too_many_lines[1], (PaintedLine{{0, 114}, "b", 95}));
+    EXPECT_EQ(too_many_lines.at(1), (PaintedLine{{0, 114}, "b", 95}));
     const auto hopeless = Painted({0, 0, 10, 10}, "a", {.font = {100}});
-    EXPECT_EQ(hopeless[0].height, 80);  // never below four points
+    EXPECT_EQ(hopeless.at(0).height, 80);  // never below four points
 }
 
 TEST_F(LabelTest, OverhangLeavesTheBoxButNotItsReach) {

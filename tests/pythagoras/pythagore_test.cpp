@@ -102,7 +102,8 @@ TEST_F(PythagoreTest, BlinksTenTimesWithAClickEach) {
     }
     EXPECT_EQ(pupil.Heard(), (Names{"4", "5", "6", "7", "8", "9", "10", "1", "2"}));
     EXPECT_EQ(Enabled(), 22U);
-    EXPECT_GT(*pupil.program.stage().NextDue(), pupil.platform.now + 200) << "still awake after the blink";
+    EXPECT_GT(pupil.program.stage().NextDue().value_or(0), pupil.platform.now + 200)
+        << "still awake after the blink";
 }
 
 TEST_F(PythagoreTest, LeavingDropsAHalfMadePair) {
@@ -170,7 +171,7 @@ TEST_F(PythagoreTest, ANewerBlinkGoesFirst) {
 }
 
 // Records in which order boxes and numbers are painted, and in which colours.
-class PaintedNumbers final : public TextCanvas {
+class PaintedNumbers final : public BlankCanvas {
   public:
     void FillBox(const Rect&, Color color, int) override {
         if (color == Color{255, 255, 0}) numbers_before_bars = colors.size();
