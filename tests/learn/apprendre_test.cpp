@@ -53,6 +53,17 @@ TEST(Apprendre, DrawsItsProductsDigitByDigit) {
     EXPECT_EQ(Row(screen, 9), (Names{"113,61,36,25", "2,61,36,25", ""}));  // 30
 }
 
+TEST(Apprendre, LeavingPutsTheFirstExerciseBack) {
+    Pupil pupil;
+    const auto& ui = pupil.screens.apprendre.factoring.ui;
+    pupil.ChooseTable(5);
+    pupil.Turn(ui.fleche, 3);
+    pupil.Click(ui.chiffre);
+    pupil.Click(pupil.screens.apprendre.retour);
+    EXPECT_EQ(ui.chiffre.caption(), "0");
+    EXPECT_FALSE(ui.encore_un.visible());
+}
+
 TEST(Apprendre, ArrowsRunThroughTheirValues) {
     Pupil pupil;
     const Apprendre& screen = pupil.screens.apprendre;

@@ -106,6 +106,18 @@ TEST_F(PythagoreTest, BlinksTenTimesWithAClickEach) {
         << "still awake after the blink";
 }
 
+TEST(Pythagore, FullCounterStopsTheRunBeforeTheAnswer) {
+    Counters counters;
+    counters.PythagoreSolves = TaggedNumber::Long(2147483647);
+    Pupil pupil(counters);
+    const Pythagore& screen = pupil.screens.pythagore;
+    pupil.Click(pupil.screens.depart.pytha);
+    pupil.Click(screen.rangee[5]);
+    pupil.ClickIntoFull(screen.colonne[6], "PythagoreSolves");
+    EXPECT_EQ(pupil.Heard(), (Names{"5", "1", "2"}));
+    EXPECT_EQ(screen.operation.caption(), "5 que multiplie ?? = ??");
+}
+
 TEST_F(PythagoreTest, LeavingDropsAHalfMadePair) {
     pupil.Click(screen.colonne[9]);
     pupil.Heard();

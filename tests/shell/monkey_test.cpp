@@ -100,7 +100,7 @@ class Desktop {
     void Wait(Stage& stage, int time) {
         const std::int64_t end = platform_.now + time;
         while (platform_.now < end) {
-            platform_.now = std::max(platform_.now, std::min(end, stage.NextDue().value_or(end)));
+            platform_.now = std::clamp(stage.NextDue().value_or(end), platform_.now + 1, end);
             stage.RunDue();
         }
     }

@@ -69,19 +69,24 @@ TEST(Program, MissingFilesStopTheStart) {
 
 TEST(Program, FailedSaveStopsTheQuit) {
     Pupil pupil;
+    const std::string before = pupil.platform.ReadData("18");
     pupil.platform.calls.clear();
     pupil.platform.disk_full = true;
     EXPECT_THROW(pupil.Click(pupil.screens.depart.fin), RunTimeError);
     EXPECT_EQ(pupil.platform.calls, (Names{"stop", "start datas/5", "write datas/18"}));
+    EXPECT_EQ(pupil.platform.ReadData("18"), before);
 }
 
-// What the record's file lacks at the start is blank or zero, and stands in it after the quit.
-TEST(Program, MakesAShortRecordWhole) {
+// What the record lacks at the start is blank or zero, and stands in it after the quit.
+TEST(Program, DoesWithAShortRecordAndNoTaskbar) {
     HeadlessPlatform platform;
     ScriptedRandom random;
     Program program(platform, random);
     platform.WriteData("18", "\2\0\7"s);
+    platform.taskbar = 0;
     program.Load();
+    const Names hide_nothing{"find <Shell_traywnd> <>", "place 0 after 0 at 0,0,0,0 flags 80"};
+    EXPECT_EQ(platform.calls, Load() + hide_nothing + Change("640x480"));
     program.screens().depart.fin.on_click();
     EXPECT_EQ(platform.ReadData("18"), "\2\0\1\0          \2\0\0\0\2\0\0\0\2\0\0\0"s + std::string(94, '\0'));
 }

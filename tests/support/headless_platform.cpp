@@ -94,7 +94,7 @@ void HeadlessPlatform::ReplaceContent(const std::filesystem::path& file, std::sp
 
 Platform::WindowHandle HeadlessPlatform::FindWindowA(const char* class_name, const char* title) {
     calls.push_back("find <" + std::string(class_name) + "> <" + title + ">");
-    return std::string(class_name) == "Shell_traywnd" ? 77 : 0;
+    return std::string(class_name) == "Shell_traywnd" ? taskbar : 0;
 }
 
 void HeadlessPlatform::SetWindowPos(WindowHandle window, WindowHandle insert_after, int x, int y, int width,

@@ -70,6 +70,7 @@ class HeadlessPlatform : public Platform {
         calls;  // everything that was asked of the system, in order, with the files' places
     std::vector<std::string> sounds;  // the names of the sound files started, in order
     bool disk_full = false;
+    WindowHandle taskbar = 77;
     std::int64_t now = 1000;
     int screen_width = 1024;
     int screen_height = 768;
