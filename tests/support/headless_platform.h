@@ -23,17 +23,6 @@ inline std::string SourceOf(const PicturePtr& picture) {
     return picture ? static_cast<const HeadlessPicture&>(*picture).source : "";
 }
 
-// For tests that look at some of what is painted.
-class BlankCanvas : public Canvas {
-  public:
-    void DrawPicture(const Picture&, Point) override {}
-    void FillBox(const Rect&, Color, int) override {}
-    void FrameBox(const Rect&, Color, int) override {}
-    void FillPolygon(std::span<const Point>, Color) override {}
-    void DrawLine(Point, Point, int, Color) override {}
-    void DrawTextLine(Point, std::string_view, const Font&, Color) override {}
-};
-
 // A platform of the tests: it records sounds and system calls, its clock moves when the test moves it, its
 // display obeys, its texts are what the test says. Its folder is a temporary one with a data folder in it.
 class HeadlessPlatform : public Platform {
