@@ -12,43 +12,36 @@ Exercise FactorPair(Screens& screens) {
     };
     const struct {
         Draws draws;
-        std::string product;
-        int first;
+        int product, first;
         int second;  // 0: the first one is wrong
         std::string correction;
     } cases[] = {
-        {{{10, 0}, {10, 5}}, " 24", 3, 8, ""},
-        {{{10, 0}, {10, 5}}, " 24", 12, 2, ""},  // neither of those drawn
-        {{{10, 0}, {10, 5}}, " 24", 6, 8, " 24 = 6 X 4 !" + kGoOn},
+        {{{10, 0}, {10, 5}}, 24, 3, 8, ""},
+        {{{10, 0}, {10, 5}}, 24, 12, 2, ""},  // neither of those drawn
+        {{{10, 0}, {10, 5}}, 24, 6, 8, " 24 = 6 X 4 !" + kGoOn},
         // The second factor is drawn again until it differs from the first.
-        {{{10, 9}, {10, 9}, {10, 9}, {10, 8}}, " 132", 11, 1, " 132 = 11 X 12 !" + kGoOn},
+        {{{10, 9}, {10, 9}, {10, 9}, {10, 8}}, 132, 11, 1, " 132 = 11 X 12 !" + kGoOn},
         {{{10, 1}, {10, 4}},
-         " 28",
+         28,
          3,
          0,
          " On peut trouver 28 dans les Tables de Multiplication par 4 et par 7 !\r 28 = 4 X 7 ! Cliquez sur "
          "Continuer pour un autre exercice."},
     };
-    for (const auto& c : cases) {
+    for (const auto& [draws, product, first, second, correction] : cases) {
+        const bool right = correction.empty();
         const std::string question =
-            "Dans quelle Table de Multiplication puis-je trouver" + c.product + " ?|";
-        const std::string first = " " + std::to_string(c.first);
-        const std::string verdict =
-            (c.correction.empty() ? kBravo : "Erreur !" + c.correction) + "|Continuer";
-        Way way{c.draws,
-                question + "??|" + kEnterOnTwoLines + "|^3",
-                {{ui.flech3, c.first}},
-                c.correction.empty(),
-                "aht+",
-                "a"};
-        if (c.second == 0) {
-            way.deeds.push_back({ui.chiffre4, question + first + "|" + verdict});
+            Put("Dans quelle Table de Multiplication puis-je trouver {} ?|", {product});
+        const std::string verdict = (right ? kBravo : "Erreur !" + correction) + "|Continuer";
+        Way way{draws, question + "??|" + kEnterOnTwoLines + "|^3", {{ui.flech3, first}}, right, "aht+", "a"};
+        if (second == 0) {
+            way.deeds.push_back({ui.chiffre4, Put("{} {}|{}", {question, first, verdict})});
             way.before_exercises = "a+";
         } else {
-            const std::string begun = c.product + " = " + first + " X|";
+            const std::string begun = Put(" {} =  {} X|", {product, first});
             way.deeds.push_back({ui.chiffre4, begun + "??|" + kNowEnter + "|^0"});
-            way.deeds.push_back({ui.flech4, c.second});
-            way.deeds.push_back({ui.chiffre5, begun + " " + std::to_string(c.second) + "|" + verdict});
+            way.deeds.push_back({ui.flech4, second});
+            way.deeds.push_back({ui.chiffre5, Put("{} {}|{}", {begun, second, verdict})});
         }
         exercise.ways.push_back(way);
     }

@@ -20,27 +20,24 @@ Exercise FactoredSum(Screens& screens) {
          11,
          44},
     };
-    for (const auto& c : cases) {
-        const auto row = [&c](const std::string& cofactor, const std::string& result) {
-            return c.question + "|" + cofactor + "| =|" + result + "|";
-        };
-        const auto answer = [&](int cofactor, int result, const Label& clicked) {
-            const bool right = cofactor == c.cofactor && result == c.result;
-            const std::string message = right ? kBravo
-                                              : "Erreur ! " + c.question + " " + std::to_string(c.cofactor) +
-                                                    " = " + std::to_string(c.result) + " !" + kGoOn;
-            const std::string end =
-                row(" " + std::to_string(cofactor), " " + std::to_string(result)) + message + "|Continuer";
-            exercise.ways.push_back({c.draws,
-                                     row("??", "??") + kEnterBoth + "|^0|^0",
-                                     {{ui.flech7, result}, {ui.flech6, cofactor}, {clicked, end}},
+    for (const auto& [draws, question, factor, cofactor, result] : cases) {
+        const std::string row = question + "|{}| =|{}|{}|";
+        const auto answer = [&](int first, int second, const Label& clicked) {
+            const bool right = first == cofactor && second == result;
+            const std::string message =
+                right ? kBravo : Put("Erreur ! {} {} = {} !{}", {question, cofactor, result, kGoOn});
+            const Deed end(clicked,
+                           Put(row, {Put(" {}", {first}), Put(" {}", {second}), message}) + "Continuer");
+            exercise.ways.push_back({draws,
+                                     Put(row, {"??", "??", kEnterBoth}) + "^0|^0",
+                                     {{ui.flech7, second}, {ui.flech6, first}, end},
                                      right,
                                      "ahtc+",
                                      "ac"});
         };
-        answer(c.cofactor, c.result, ui.chiffre7);
-        answer(c.cofactor + 1, c.result, ui.chiffre8);
-        answer(c.cofactor, c.result + c.factor, ui.chiffre8);
+        answer(cofactor, result, ui.chiffre7);
+        answer(cofactor + 1, result, ui.chiffre8);
+        answer(cofactor, result + factor, ui.chiffre8);
     }
     return exercise;
 }

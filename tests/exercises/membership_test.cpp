@@ -8,42 +8,40 @@ Exercise Membership(Screens& screens) {
     exercise.check = [&ui] { EXPECT_EQ(ui.lab.box().right(), ui.chiffre2.box().left); };
     const struct {
         Draws draws;
-        std::string number, table;
-        int factor;  // 0: not in the table
+        int number, table, factor;  // 0: not in the table
     } cases[] = {
-        {{kReseed, {12, 3}, {11, 4}, {11, 4}}, " 24", " 6", 4},
-        {{kReseed, {12, 3}, {11, 4}, {11, 3}}, " 24", " 5", 0},
-        {{kReseed, {12, 11}, {11, 10}, {11, 10}}, " 144", " 12", 12},
-        {{kReseed, {12, 11}, {11, 0}, {11, 6}}, " 24", " 8", 3},  // by chance
-        {{kReseed, {12, 0}, {11, 0}, {11, 1}}, " 2", " 3", 0},
-        {{kReseed, {12, 0}, {11, 0}, {11, 0}}, " 2", " 2", 1},
+        {{kReseed, {12, 3}, {11, 4}, {11, 4}}, 24, 6, 4},
+        {{kReseed, {12, 3}, {11, 4}, {11, 3}}, 24, 5, 0},
+        {{kReseed, {12, 11}, {11, 10}, {11, 10}}, 144, 12, 12},
+        {{kReseed, {12, 11}, {11, 0}, {11, 6}}, 24, 8, 3},  // by chance
+        {{kReseed, {12, 0}, {11, 0}, {11, 1}}, 2, 3, 0},
+        {{kReseed, {12, 0}, {11, 0}, {11, 0}}, 2, 2, 1},
     };
-    for (const auto& c : cases) {
-        const std::string question = c.number + "|est-il un résultat de la Table de" + c.table + " ?|";
+    for (const auto& [draws, number, table, factor] : cases) {
+        const std::string question = Put(" {}|est-il un résultat de la Table de {} ?|", {number, table});
+        Way way{draws, question + "OUI|NON|Cliquez sur OUI ou NON pour répondre.", {}, false, "", ""};
         const auto answer = [&](const std::vector<Deed>& deeds, bool right, const char* before_exercises,
                                 const char* before_verdict) {
-            exercise.ways.push_back({c.draws, question + "OUI|NON|Cliquez sur OUI ou NON pour répondre.",
-                                     deeds, right, before_exercises, before_verdict});
+            way.deeds = deeds, way.right = right;
+            way.before_exercises = before_exercises, way.before_verdict = before_verdict;
+            exercise.ways.push_back(way);
         };
-        if (c.factor == 0) {
+        if (factor == 0) {
             const std::string no_member =
-                c.number + " ne fait pas partie de la Table de" + c.table + " !" + kGoOn + "|Continuer";
+                Put(" {} ne fait pas partie de la Table de {} !{}|Continuer", {number, table, kGoOn});
             answer({{ui.oui, question + "Erreur !" + no_member}}, false, "ahtc+", "a");
             answer({{ui.non, question + "C'est juste !" + no_member}}, true, "", "ahtc+");
             continue;
         }
-        const std::string solution =
-            c.number + " = " + std::to_string(c.factor) + " X" + c.table + " !" + kGoOn;
+        const std::string solution = Put(" {} = {} X {} !{}", {number, factor, table, kGoOn});
         answer({{ui.non, question + "Erreur !" + solution + "|Continuer"}}, false, "", "ahtc+");
-        const auto row = [&](const std::string& factor) {
-            return question + c.number + " =|" + factor + "| X" + c.table + "|";
-        };
-        for (const bool right : {true, false}) {
-            const int factor = right ? c.factor : c.factor + 1;
-            const std::string end =
-                row(" " + std::to_string(factor)) + (right ? kBravo : "Faux !" + solution) + "|Continuer";
-            answer({{ui.oui, row("??") + kNowEnter + "|^0"}, {ui.flech1, factor}, {ui.chiffre2, end}}, right,
-                   "ahtc+", "a");
+        const std::string row = question + " {} =|{}| X {}|{}|{}";
+        const Deed oui(ui.oui, Put(row, {number, "??", table, kNowEnter, "^0"}));
+        for (const int given : {factor, factor + 1}) {
+            const bool right = given == factor;
+            const std::string message = right ? kBravo : "Faux !" + solution;
+            const Deed end(ui.chiffre2, Put(row, {number, Put(" {}", {given}), table, message, "Continuer"}));
+            answer({oui, {ui.flech1, given}, end}, right, "ahtc+", "a");
         }
     }
     return exercise;

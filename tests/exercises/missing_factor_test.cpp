@@ -15,13 +15,11 @@ Exercise MissingFactor(Screens& screens) {
     for (const auto& [draws, question, answer] : cases) {
         for (const int given : {answer, answer + 1}) {
             const bool right = given == answer;
-            const std::string message =
-                right ? kBravo : "Erreur ! " + std::to_string(answer) + " " + question + " !" + kGoOn;
-            const std::string end =
-                " " + std::to_string(given) + "|" + question + "|" + message + "|Continuer";
+            const std::string message = right ? kBravo : Put("Erreur ! {} {} !{}", {answer, question, kGoOn});
+            const Deed end(ui.chiffre6, Put(" {}|{}|{}|Continuer", {given, question, message}));
             exercise.ways.push_back({draws,
-                                     "??|" + question + "|" + kEnterOnTwoLines + "|^0",
-                                     {{ui.flech5, given}, {ui.chiffre6, end}},
+                                     Put("??|{}|{}|^0", {question, kEnterOnTwoLines}),
+                                     {{ui.flech5, given}, end},
                                      right,
                                      "ht+",
                                      right ? "ht" : ""});

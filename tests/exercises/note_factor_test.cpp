@@ -16,20 +16,19 @@ Exercise NoteFactor(Screens& screens) {
     for (const auto& [draws, question, factor, note] : cases) {
         const std::string asked =
             "Sachant que DO=3, RE=4 ... LA=8, SI=9, entrez votre réponse grâce aux flèches puis cliquez sur "
-            "cette réponse pour la correction.|DO|" +
-            question + "|^0";
-        const std::string text = "C'est " + note + " car " + note + " = " + std::to_string(factor) +
-                                 " donc \r " + std::to_string(factor) + " " + question + kGoOn;
-        const auto end = [&](bool right, const std::string& given) {
-            return Deed(ui.chiffre9, (right ? "Bravo ! " : "Erreur ! ") + text + "|" + given + "|" +
-                                         question + "|Continuer");
+            "cette réponse pour la correction.|DO|{}|^0";
+        const std::string told = "{} ! C'est {} car {} = {} donc \r {} {}{}|{}|{}|Continuer";
+        const auto answer = [&](const std::string& given, bool enters) {
+            const bool right = given == note;
+            const Deed end(ui.chiffre9, Put(told, {right ? "Bravo" : "Erreur", note, note, factor, factor,
+                                                   question, kGoOn, given, question}));
+            Way way{draws, Put(asked, {question}), {end}, right, "ahtc+", right ? "ahtc" : "ac"};
+            if (enters) way.deeds.insert(way.deeds.begin(), {ui.flech8, right ? factor - 3 : 1});
+            exercise.ways.push_back(way);
         };
-        const auto answer = [&](const std::vector<Deed>& deeds, bool right) {
-            exercise.ways.push_back({draws, asked, deeds, right, "ahtc+", right ? "ahtc" : "ac"});
-        };
-        answer({{ui.flech8, factor - 3}, end(true, note)}, true);
-        answer({{ui.flech8, 1}, end(false, "RE")}, false);
-        answer({end(factor == 3, "DO")}, factor == 3);  // the first note is an answer as it stands
+        answer(note, true);
+        answer("RE", true);
+        answer("DO", false);  // the first note is an answer as it stands
     }
     return exercise;
 }

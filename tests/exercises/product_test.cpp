@@ -14,17 +14,12 @@ Exercise Product(Screens& screens) {
                  {{{11, 0}, {11, 0}}, " 2 X 2 =", 4}};
     for (const auto& [draws, question, answer] : cases) {
         for (const int given : {answer, answer - 4}) {
-            const std::string message = given == answer
-                                            ? "Bravo, vous avez trouvé la bonne solution !"
-                                            : "Erreur ! " + question + " " + std::to_string(answer) + " !";
-            const std::string end =
-                question + "| " + std::to_string(given) + "|" + message + kGoOn + "|Continuer";
-            exercise.ways.push_back({draws,
-                                     question + "|??|" + kEnter + "|^0",
-                                     {{ui.flech2, given}, {ui.chiffre3, end}},
-                                     given == answer,
-                                     "ahtc+",
-                                     "ac"});
+            const bool right = given == answer;
+            const std::string message = right ? "Bravo, vous avez trouvé la bonne solution !"
+                                              : Put("Erreur ! {} {} !", {question, answer});
+            const Deed end(ui.chiffre3, Put("{}| {}|{}|Continuer", {question, given, message + kGoOn}));
+            exercise.ways.push_back(
+                {draws, question + "|??|" + kEnter + "|^0", {{ui.flech2, given}, end}, right, "ahtc+", "ac"});
         }
     }
     return exercise;

@@ -18,20 +18,20 @@ Exercise Factoring(Screens& screens) {
         {7, {kReseed, {2, 1}, {12, 0}, {12, 11}}, " 84 - 7 =  7 X", 11, " 11 = 77"},
         {2, {kReseed, {2, 1}, {12, 4}, {12, 4}}, " 10 - 10 =  2 X", 0, " 0 = 0"},
     };
-    for (const auto& c : cases) {
-        const auto answer = [&](bool right, int given, const std::string& message) {
-            const std::string end =
-                c.question + "|" + std::to_string(given) + "|" + message + kGoOn + "|Continuer";
-            exercise.ways.push_back({c.draws,
-                                     c.question + "|??|" + kEnter + "|^0",
-                                     {{ui.fleche, given}, {ui.chiffre, end}},
+    for (const auto& [table, draws, question, answer, product] : cases) {
+        for (const int given : {answer, answer + 1}) {
+            const bool right = given == answer;
+            const std::string message =
+                right ? "Gagné ! Vous avez trouvé le bon résultat !" : "Erreur ! " + question + product;
+            const Deed end(ui.chiffre, Put("{}|{}|{}|Continuer", {question, given, message + kGoOn}));
+            exercise.ways.push_back({draws,
+                                     question + "|??|" + kEnter + "|^0",
+                                     {{ui.fleche, given}, end},
                                      right,
                                      "",
                                      "ahc+",
-                                     c.table});
-        };
-        answer(true, c.answer, "Gagné ! Vous avez trouvé le bon résultat !");
-        answer(false, c.answer + 1, "Erreur ! " + c.question + c.product);
+                                     table});
+        }
     }
     return exercise;
 }

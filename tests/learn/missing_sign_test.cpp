@@ -9,7 +9,7 @@ Exercise MissingSign(Screens& screens) {
         int table;
         Draws draws;
         std::string first;
-        int sign;
+        std::size_t sign;
         std::string rest;
     } cases[] = {
         {7, {kReseed, {12, 4}, {12, 2}, {3, 0}}, " 35", 0, " 21 = 8 X 7 = 56"},
@@ -22,20 +22,22 @@ Exercise MissingSign(Screens& screens) {
          0,
          " 2 = 3 X 2 = 6"},
     };
-    const std::string signs = "+-X";
-    for (const auto& c : cases) {
-        const auto line = [&c](char sign) { return "|" + c.first + "|" + sign + "|" + c.rest; };
+    const Names signs{"+", "-", "X"};
+    for (const auto& [table, draws, first, sign, rest] : cases) {
         const std::string asked =
-            "Entrez le signe grâce aux flèches puis cliquez sur ce signe pour la correction." + line('?') +
-            "|^0";
-        const std::string solution =
-            c.first + " " + signs.substr(static_cast<std::size_t>(c.sign), 1) + " " + c.rest + kGoOn;
-        for (int chosen = 0; chosen < 3; ++chosen) {
-            const bool right = chosen == c.sign;
-            const std::string end = (right ? "Gagné ! " : "Perdu ! ") + solution +
-                                    line(signs[static_cast<std::size_t>(chosen)]) + "|Continuer";
-            exercise.ways.push_back(
-                {c.draws, asked, {{ui.fleche5, chosen}, {ui.signe, end}}, right, "", "ac+", c.table});
+            "Entrez le signe grâce aux flèches puis cliquez sur ce signe pour la correction.|{}|?|{}|^0";
+        for (std::size_t given = 0; given < 3; ++given) {
+            const bool right = given == sign;
+            const Deed end(ui.signe, Put("{} ! {} {} {}{}|{}|{}|{}|Continuer",
+                                         {right ? "Gagné" : "Perdu", first, signs.at(sign), rest, kGoOn,
+                                          first, signs.at(given), rest}));
+            exercise.ways.push_back({draws,
+                                     Put(asked, {first, rest}),
+                                     {{ui.fleche5, static_cast<int>(given)}, end},
+                                     right,
+                                     "",
+                                     "ac+",
+                                     table});
         }
     }
     return exercise;

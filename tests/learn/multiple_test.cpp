@@ -26,41 +26,43 @@ Exercise Multiple(Screens& screens) {
         {7, {kReseed, {2, 1}, {50, 9}, {50, 3}, {50, 4}}, " 10 + 5", 15, 0},
         {2, {kReseed, {2, 1}, {50, 49}, {50, 49}, {50, 1}, {50, 0}}, " 50 + 1", 51, 0},
     };
-    for (const auto& c : cases) {
-        const std::string table = " " + std::to_string(c.table);
-        const std::string sum = c.terms + " = " + std::to_string(c.sum);
-        const std::string asked = "La somme de" + c.terms + " donne-t-elle pour résultat un multiple de" +
-                                  table + " ?\rCliquez sur OUI ou NON pour répondre.|OUI|NON";
+    for (const auto& [table, draws, terms, sum, factor] : cases) {
+        Way way{draws,
+                Put("La somme de{} donne-t-elle pour résultat un multiple de {} ?\rCliquez sur OUI ou NON "
+                    "pour répondre.|OUI|NON",
+                    {terms, table}),
+                {},
+                false,
+                "",
+                "",
+                table};
         const auto answer = [&](const std::vector<Deed>& deeds, bool right, const char* before_exercises,
                                 const char* before_verdict) {
-            exercise.ways.push_back(
-                {c.draws, asked, deeds, right, before_exercises, before_verdict, c.table});
+            way.deeds = deeds, way.right = right;
+            way.before_exercises = before_exercises, way.before_verdict = before_verdict;
+            exercise.ways.push_back(way);
         };
-        if (c.factor == 0) {
+        if (factor == 0) {
             const std::string no_multiple =
-                sum + " qui n'est pas un multiple de" + table + " !" + kGoOn + "|Continuer";
+                Put("{} = {} qui n'est pas un multiple de {} !{}|Continuer", {terms, sum, table, kGoOn});
             answer({{ui.oui, "C'est faux !" + no_multiple}}, false, "aht+", "ah");
             answer({{ui.non, "Vous avez raison !" + no_multiple}}, true, "", "ah+");
             continue;
         }
-        const std::string product = " " + std::to_string(c.factor) + " X" + table;
-        answer({{ui.non, "Perdu !" + sum + " =" + product + " qui est donc bien un multiple de" + table +
-                             " !" + kGoOn + "|Continuer"}},
-               false, "", "ah+");
-        const std::string line = "|X" + table + " =" + c.terms + " =|";
-        const Deed oui(ui.oui, "Vous avez raison.\r" + kEnterBoth + "|??" + line + "??|^0|^0");
-        const auto enter = [&](int factor, int result, const Label& clicked) {
-            const bool right = factor == c.factor && result == c.sum;
-            const std::string message =
-                right ? "Bravo ! Les 2 opérations sont justes !" : "Erreur !" + product + " =" + sum;
-            const std::string end =
-                message + kGoOn + "|" + std::to_string(factor) + line + std::to_string(result) + "|Continuer";
-            answer({oui, {ui.fleche2, factor}, {ui.fleche3, result}, {clicked, end}}, right, "",
-                   right ? "ac+" : "ahc+");
+        const std::string no = "Perdu !{} = {} = {} X {} qui est donc bien un multiple de {} !{}|Continuer";
+        answer({{ui.non, Put(no, {terms, sum, factor, table, table, kGoOn})}}, false, "", "ah+");
+        const std::string line = Put("|X {} ={} =|", {table, terms});
+        const Deed oui(ui.oui, Put("Vous avez raison.\r{}|??{}??|^0|^0", {kEnterBoth, line}));
+        const auto enter = [&](int first, int second, const Label& clicked) {
+            const bool right = first == factor && second == sum;
+            const std::string message = right ? "Bravo ! Les 2 opérations sont justes !"
+                                              : Put("Erreur ! {} X {} ={} = {}", {factor, table, terms, sum});
+            const Deed end(clicked, Put("{}{}|{}{}{}|Continuer", {message, kGoOn, first, line, second}));
+            answer({oui, {ui.fleche2, first}, {ui.fleche3, second}, end}, right, "", right ? "ac+" : "ahc+");
         };
-        enter(c.factor, c.sum, ui.chiffre3);
-        enter(c.factor - 1, c.sum, ui.chiffre2);
-        enter(c.factor, c.sum + c.table, ui.chiffre3);
+        enter(factor, sum, ui.chiffre3);
+        enter(factor - 1, sum, ui.chiffre2);
+        enter(factor, sum + table, ui.chiffre3);
     }
     return exercise;
 }

@@ -4,32 +4,6 @@
 
 namespace {
 
-TEST(Bilan, EveryCounterInItsPlace) {
-    Counters counters;
-    for (std::size_t i = 0; i < kStoredTables; ++i) {
-        counters.TableConsultations[i] = static_cast<std::int16_t>(100 + i);
-        counters.TableExercises[i] = static_cast<std::int16_t>(20000 + i);
-        counters.TableRight[i] = static_cast<std::int16_t>(300 + i);
-        counters.TableWrong[i] = static_cast<std::int16_t>(-32768 + static_cast<int>(i));
-    }
-    counters.PuzzleCount = 32767;
-    counters.PuzzleRight = -3;
-    counters.PuzzleWrong = 12;
-    Pupil pupil(counters);
-    const Bilan& screen = pupil.screens.bilan;
-    pupil.Click(pupil.screens.depart.dates);
-    for (int i = 0; i < kStoredTables; ++i) {
-        EXPECT_EQ(screen.consult[i].caption(), std::to_string(100 + i));
-        EXPECT_EQ(screen.exos[i].caption(), std::to_string(20000 + i));
-        EXPECT_EQ(screen.juste[i].caption(), std::to_string(300 + i));
-        EXPECT_EQ(screen.faux[i].caption(), std::to_string(-32768 + i));
-        EXPECT_EQ(screen.faux[i].Layout().font, screen.faux[i].style().font) << "drawn smaller";
-    }
-    EXPECT_EQ(screen.n_exo.caption(), "32767");
-    EXPECT_EQ(screen.n_exoj.caption(), "-3");
-    EXPECT_EQ(screen.n_exof.caption(), "12");
-}
-
 TEST(Bilan, SentencesAndTheWordForTries) {
     const struct {
         int solves;

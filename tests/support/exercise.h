@@ -46,6 +46,14 @@ using ExerciseOf = Exercise (*)(Screens&);
 //     INSTANTIATE_TEST_SUITE_P(Name, ExerciseTest, testing::Values(TheExercise));
 class ExerciseTest : public testing::TestWithParam<ExerciseOf> {};
 
+// A text with these in its places, "{}".
+struct Word : std::string {
+    using std::string::string;
+    Word(const std::string& text) : std::string(text) {}
+    Word(int number) : std::string(std::to_string(number)) {}
+};
+std::string Put(std::string text, const std::vector<Word>& words);
+
 inline const std::string kGoOn = "\rCliquez sur Continuer pour un autre exercice.";
 inline const std::string kEnter =
     "Entrez votre réponse grâce aux flèches puis cliquez sur cette réponse pour la correction.";

@@ -3,6 +3,11 @@
 #include <algorithm>
 #include <array>
 
+std::string Put(std::string text, const std::vector<Word>& words) {
+    for (const Word& word : words) text.replace(text.find("{}"), 2, word);
+    return text;
+}
+
 namespace {
 
 using Controls = std::vector<Control*>;

@@ -8,7 +8,9 @@
 class WritingCanvas final : public Canvas {
   public:
     void DrawPicture(const Picture& picture, Point at) override {
-        out << "picture " << static_cast<const HeadlessPicture&>(picture).source << At(at) << '\n';
+        const auto& drawn = static_cast<const HeadlessPicture&>(picture);
+        out << "picture " << drawn.source << At({drawn.x, drawn.y}) << ' ' << drawn.width << 'x'
+            << drawn.height << " at" << At(at) << '\n';
     }
     void FillBox(const Rect& box, Color color, int radius) override { Box("fill", box, color, radius); }
     void FrameBox(const Rect& box, Color color, int radius) override { Box("frame", box, color, radius); }
