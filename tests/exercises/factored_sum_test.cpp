@@ -22,11 +22,13 @@ Exercise FactoredSum(Screens& screens) {
     };
     for (const auto& [draws, question, factor, cofactor, result] : cases) {
         const std::string row = question + "|{}| =|{}|{}|";
-        const auto answer = [&](int first, int second, const Label& clicked) {
+        for (const auto& [one_more, multiple_more] : {std::pair{0, 0}, {1, 0}, {0, 1}}) {
+            const int first = cofactor + one_more;
+            const int second = result + multiple_more * factor;
             const bool right = first == cofactor && second == result;
             const std::string message =
                 right ? kBravo : Put("Erreur ! {} {} = {} !{}", {question, cofactor, result, kGoOn});
-            const Deed end(clicked,
+            const Deed end(right ? ui.chiffre7 : ui.chiffre8,
                            Put(row, {Put(" {}", {first}), Put(" {}", {second}), message}) + "Continuer");
             exercise.ways.push_back({draws,
                                      Put(row, {"??", "??", kEnterBoth}) + "^0|^0",
@@ -34,10 +36,7 @@ Exercise FactoredSum(Screens& screens) {
                                      right,
                                      "ahtc+",
                                      "ac"});
-        };
-        answer(cofactor, result, ui.chiffre7);
-        answer(cofactor + 1, result, ui.chiffre8);
-        answer(cofactor, result + factor, ui.chiffre8);
+        }
     }
     return exercise;
 }

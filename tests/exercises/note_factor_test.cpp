@@ -18,17 +18,15 @@ Exercise NoteFactor(Screens& screens) {
             "Sachant que DO=3, RE=4 ... LA=8, SI=9, entrez votre réponse grâce aux flèches puis cliquez sur "
             "cette réponse pour la correction.|DO|{}|^0";
         const std::string told = "{} ! C'est {} car {} = {} donc \r {} {}{}|{}|{}|Continuer";
-        const auto answer = [&](const std::string& given, bool enters) {
+        for (const std::string& given : {note, std::string("RE"), std::string("DO")}) {
             const bool right = given == note;
             const Deed end(ui.chiffre9, Put(told, {right ? "Bravo" : "Erreur", note, note, factor, factor,
                                                    question, kGoOn, given, question}));
-            Way way{draws, Put(asked, {question}), {end}, right, "ahtc+", right ? "ahtc" : "ac"};
-            if (enters) way.deeds.insert(way.deeds.begin(), {ui.flech8, right ? factor - 3 : 1});
+            Way way{draws,   Put(asked, {question}), {{ui.flech8, right ? factor - 3 : 1}, end}, right,
+                    "ahtc+", right ? "ahtc" : "ac"};
+            if (given == "DO") way.deeds = {end};  // the first note is an answer as it stands
             exercise.ways.push_back(way);
-        };
-        answer(note, true);
-        answer("RE", true);
-        answer("DO", false);  // the first note is an answer as it stands
+        }
     }
     return exercise;
 }

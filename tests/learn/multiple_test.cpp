@@ -53,16 +53,16 @@ Exercise Multiple(Screens& screens) {
         answer({{ui.non, Put(no, {terms, sum, factor, table, table, kGoOn})}}, false, "", "ah+");
         const std::string line = Put("|X {} ={} =|", {table, terms});
         const Deed oui(ui.oui, Put("Vous avez raison.\r{}|??{}??|^0|^0", {kEnterBoth, line}));
-        const auto enter = [&](int first, int second, const Label& clicked) {
+        for (const auto& [one_more, multiple_more] : {std::pair{0, 0}, {1, 0}, {0, 1}}) {
+            const int first = factor + one_more;
+            const int second = sum + multiple_more * table;
             const bool right = first == factor && second == sum;
             const std::string message = right ? "Bravo ! Les 2 opérations sont justes !"
                                               : Put("Erreur ! {} X {} ={} = {}", {factor, table, terms, sum});
-            const Deed end(clicked, Put("{}{}|{}{}{}|Continuer", {message, kGoOn, first, line, second}));
+            const Deed end(one_more ? ui.chiffre2 : ui.chiffre3,
+                           Put("{}{}|{}{}{}|Continuer", {message, kGoOn, first, line, second}));
             answer({oui, {ui.fleche2, first}, {ui.fleche3, second}, end}, right, "", right ? "ac+" : "ahc+");
-        };
-        enter(factor, sum, ui.chiffre3);
-        enter(factor - 1, sum, ui.chiffre2);
-        enter(factor, sum + table, ui.chiffre3);
+        }
     }
     return exercise;
 }

@@ -202,7 +202,7 @@ TEST_P(ExerciseTest, StopsAtAFullCounter) {
     const Sitting any(GetParam());
     for (std::size_t i = 0; i < any.ways().size(); ++i) {
         const Way& way = any.ways()[i];
-        for (const std::size_t full : {0, way.right ? 1 : 2}) {
+        for (const std::size_t full : {0U, way.right ? 1U : 2U}) {
             SCOPED_TRACE(way.deeds.back().seen);
             Counters counters;
             *any.Counted(counters, way)[full] = 32767;
