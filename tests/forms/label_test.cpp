@@ -3,36 +3,25 @@
 #include <gtest/gtest.h>
 
 #include "forms/stage.h"
-#include "support/headless_platform.h"
+#include "support/writing_canvas.h"
 
 namespace {
-
-// A canvas that keeps where each line of text was painted, and in what size.
-struct PaintedLine {
-    Point at;
-    std::string text;
-    int height;
-
-    friend bool operator==(const PaintedLine&, const PaintedLine&) = default;
-};
-
-class PlaceCanvas final : public TextCanvas {
-  public:
-    void DrawTextLine(Point at, std::string_view line, const Font& font, Color) override {
-        lines.push_back({at, std::string(line), font.height});
-    }
-
-    std::vector<PaintedLine> lines;
-};
 
 // In the tests a letter is half as wide as the font is high, and a line 6/5 as high.
 class LabelTest : public testing::Test {
   protected:
-    std::vector<PaintedLine> Painted(const Rect& box, const std::string& text, const LabelStyle& style) {
-        const Label label(form, box, text, style);
-        PlaceCanvas canvas;
+    static std::string Painted(const Label& label) {
+        WritingCanvas canvas;
         label.Paint(canvas);
-        return canvas.lines;
+        return canvas.out.str();
+    }
+    // Of a label of this font, 100 twips high.
+    std::string Painted(const Rect& box, const std::string& text, LabelStyle style = {}) {
+        style.font.height = 100;
+        return Painted(Label(form, box, text, style));
+    }
+    static std::string Line(const std::string& place, const std::string& text, int height = 100) {
+        return "text " + place + " high " + std::to_string(height) + " in 0,0,0 |" + text + "|\n";
     }
 
     HeadlessPlatform platform;
@@ -41,45 +30,35 @@ class LabelTest : public testing::Test {
 };
 
 TEST_F(LabelTest, WrapsAtBlanksAndBreaksAtCarriageReturns) {
-    const LabelStyle style{.font = {100}};
-    const auto lines = Painted({0, 0, 500, 600}, " un deux trois\r\rquatre", style);
-    EXPECT_EQ(lines, (std::vector<PaintedLine>{{{0, 0}, " un deux", 100},
-                                               {{0, 120}, "trois", 100},
-                                               {{0, 240}, "", 100},
-                                               {{0, 360}, "quatre", 100}}));
-    const auto exact = Painted({0, 0, 350, 120}, "un deux", style);
-    EXPECT_EQ(exact, (std::vector<PaintedLine>{{{0, 0}, "un deux", 100}}));
+    EXPECT_EQ(Painted({0, 0, 500, 600}, " un deux trois\r\rquatre"),
+              Line("0,0", " un deux") + Line("0,120", "trois") + Line("0,240", "") + Line("0,360", "quatre"));
+    EXPECT_EQ(Painted({0, 0, 350, 120}, "un deux"), Line("0,0", "un deux"));
 }
 
 TEST_F(LabelTest, MarksAndProductsStayTogether) {
-    const auto lines = Painted({0, 0, 500, 600}, "multiple 7 ? non !", {.font = {100}});
-    EXPECT_EQ(lines, (std::vector<PaintedLine>{{{0, 0}, "multiple", 100}, {{0, 120}, "7 ? non !", 100}}));
-    EXPECT_EQ(Painted({0, 0, 450, 600}, "un deux ? !", {.font = {100}})[1].text, "deux ? !");
-    EXPECT_EQ(Painted({0, 0, 450, 600}, "28 = 4 X 7 = 28", {.font = {100}})[1].text, "4 X 7 =");
+    EXPECT_EQ(Painted({0, 0, 500, 600}, "multiple 7 ? non !"),
+              Line("0,0", "multiple") + Line("0,120", "7 ? non !"));
+    EXPECT_EQ(Painted({0, 0, 450, 600}, "un deux ? !"), Line("0,0", "un") + Line("0,120", "deux ? !"));
+    EXPECT_EQ(Painted({0, 0, 450, 600}, "28 = 4 X 7 = 28"),
+              Line("0,0", "28 =") + Line("0,120", "4 X 7 =") + Line("0,240", "28"));
 }
 
 TEST_F(LabelTest, AlignsInItsBox) {
     const Rect box{1000, 1000, 1000, 500};
-    EXPECT_EQ(Painted(box, "ab", {.font = {100}, .align = Align::kCenter, .middle = true})[0].at,
-              (Point{1450, 1190}));
-    EXPECT_EQ(Painted(box, "ab", {.font = {100}, .align = Align::kRight})[0].at, (Point{1900, 1000}));
+    EXPECT_EQ(Painted(box, "ab", {.align = Align::kCenter, .middle = true}), Line("1450,1190", "ab"));
+    EXPECT_EQ(Painted(box, "ab", {.align = Align::kRight}), Line("1900,1000", "ab"));
 }
 
 TEST_F(LabelTest, TextThatDoesNotFitIsDrawnSmaller) {
-    const auto one_word = Painted({0, 0, 400, 1000}, "ABCDEFGHIJ", {.font = {100}});
-    EXPECT_EQ(one_word, (std::vector<PaintedLine>{{{0, 0}, "ABCDEFGHIJ", 80}}));
-    const auto too_many_lines = Painted({0, 0, 1000, 230}, "a\rb", {.font = {100}});
-    EXPECT_EQ(too_many_lines[1], (PaintedLine{{0, 114}, "b", 95}));
-    const auto hopeless = Painted({0, 0, 10, 10}, "a", {.font = {100}});
-    EXPECT_EQ(hopeless[0].height, 80);  // never below four points
+    EXPECT_EQ(Painted({0, 0, 400, 1000}, "ABCDEFGHIJ"), Line("0,0", "ABCDEFGHIJ", 80));
+    EXPECT_EQ(Painted({0, 0, 1000, 230}, "a\rb"), Line("0,0", "a", 95) + Line("0,114", "b", 95));
+    EXPECT_EQ(Painted({0, 0, 10, 10}, "a"), Line("0,0", "a", 80)) << "below four points";
 }
 
 TEST_F(LabelTest, OverhangLeavesTheBoxButNotItsReach) {
-    const LabelStyle style{.font = {100}, .align = Align::kCenter, .overhang = {200, 60, 200, 0}};
-    Label label(form, {1000, 0, 400, 120}, "ABCDEFGHIJKLMNOP", style);
-    PlaceCanvas canvas;
-    label.Paint(canvas);
-    EXPECT_EQ(canvas.lines, (std::vector<PaintedLine>{{{800, -60}, "ABCDEFGHIJKLMNOP", 100}}));
+    const Label label(form, {1000, 0, 400, 120}, "ABCDEFGHIJKLMNOP",
+                      {.font = {100}, .align = Align::kCenter, .overhang = {200, 60, 200, 0}});
+    EXPECT_EQ(Painted(label), Line("800,-60", "ABCDEFGHIJKLMNOP"));
     EXPECT_EQ(label.Reach(), (Rect{1000, 0, 400, 120}));
     EXPECT_EQ(label.Painted(), (Rect{800, -60, 800, 180}));
 }

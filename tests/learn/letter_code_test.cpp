@@ -1,44 +1,39 @@
-#include "learn/learner.h"
+#include "support/exercise.h"
 
 namespace {
 
-TEST(LetterCode, RightAndWrongLetters) {
-    struct Case {
-        int drawn;
-        int steps;
-        std::string message;
-    };
-    const std::vector<Case> cases{
-        {4, 4, "Bravo ! E = 5 donc E X 7 = 5 X 7 = 35"},
-        {4, 3, "Faux ! E = 5 donc E X 7 = 5 X 7 = 35"},
-        {0, 0, "Bravo ! A = 1 donc A X 7 = 1 X 7 = 7"},  // the first letter is an answer as it stands
-        {25, 30, "Bravo ! Z = 26 donc Z X 7 = 26 X 7 = 182"},
-    };
-    for (const Case& c : cases) {
-        Learner learner(7, {.letter = {{26, c.drawn}}});
-        auto& ui = learner.screen.letter_code.ui;
-        EXPECT_EQ(ui.enonce3.caption(),
-                  "Sachant que A=1, B=2, C=3 ... Y=25, Z=26,\rentrez votre réponse grâce aux flèches puis "
-                  "cliquez sur cette réponse pour la correction.");
-        EXPECT_EQ(ui.operation3.caption(), "X 7 = " + std::to_string(7 * (c.drawn + 1)));
-        EXPECT_EQ(ui.chiffre4.caption(), "A");
-        learner.Step(ui.fleche4, c.steps);
-        learner.Click(ui.chiffre4);
-        EXPECT_EQ(ui.enonce3.caption(), c.message + kGoOn);
-        const bool right = c.message.starts_with("Bravo");
-        EXPECT_EQ(learner.Heard().back(), right ? "1.vic" : "1.def");
-        EXPECT_FALSE(ui.fleche4.visible());
-        learner.Tap(ui.chiffre4);
-
-        learner.random.Expect({{26, 1}});  // no reseeding
-        learner.Click(ui.encore_trois);
-        EXPECT_TRUE(learner.Heard().empty());  // the arrow is set back in silence
-        EXPECT_FALSE(ui.encore_trois.visible());
-        EXPECT_EQ(ui.operation3.caption(), "X 7 = 14");
-        EXPECT_EQ(ui.chiffre4.caption(), "A");
-        EXPECT_TRUE(ui.fleche4.visible());
-        EXPECT_EQ(ScoreOf(learner, 7), (Score{1, right, !right}));
+Exercise LetterCode(Screens& screens) {
+    const auto& ui = screens.apprendre.letter_code.ui;
+    Exercise exercise{screens.apprendre.form, 2, ui.enonce3, ui.fleche4, ui.enonce3, ui.encore_trois, {}};
+    const struct {
+        int table, number;
+        char letter, given;
+    } cases[] = {{7, 5, 'E', 'E'}, {7, 5, 'E', 'D'}, {7, 1, 'A', 'A'}, {12, 26, 'Z', 'Z'}};
+    for (const auto& [table, number, letter, given] : cases) {
+        const std::string asked =
+            "Sachant que A=1, B=2, C=3 ... Y=25, Z=26,\rentrez votre réponse grâce aux flèches puis cliquez "
+            "sur cette réponse pour la correction.|A|X {} = {}|^65";
+        const std::string told = "{} ! {} = {} donc {} X {} = {} X {} = {}{}|{}|X {} = {}|Continuer";
+        const int product = table * number;
+        const bool right = given == letter;
+        const std::string l(1, letter);
+        const Deed end(ui.chiffre4, Put(told, {right ? "Bravo" : "Faux", l, number, l, table, number, table,
+                                               product, kGoOn, std::string(1, given), table, product}));
+        Way way{{{26, number - 1}},
+                Put(asked, {table, product}),
+                {{ui.fleche4, given}, end},
+                right,
+                "",
+                "ahc+",
+                table};
+        exercise.ways.push_back(way);
+        if (letter != 'A') continue;
+        way.deeds = {end};  // the first letter is an answer as it stands
+        exercise.ways.push_back(way);
     }
+    return exercise;
 }
+
+INSTANTIATE_TEST_SUITE_P(LetterCode, ExerciseTest, testing::Values(LetterCode));
 
 }  // namespace

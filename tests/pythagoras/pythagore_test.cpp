@@ -60,8 +60,10 @@ TEST_F(PythagoreTest, WordsOfAMultiplicationInTheOrderOfTheClicks) {
         auto& one = column_first ? screen.colonne : screen.rangee;
         auto& other = column_first ? screen.rangee : screen.colonne;
         EXPECT_EQ(screen.operation.caption(), "8 que multiplie 7 = 56");
+        pupil.program.stage().TakeDamage();
         pupil.Click(one[first]);
         EXPECT_EQ(screen.operation.caption(), half);
+        EXPECT_TRUE(pupil.program.stage().TakeDamage().Meets(one[0].box())) << "the closed side looks open";
         pupil.Tap(one[5]);  // the whole side is closed now
         EXPECT_EQ(screen.operation.caption(), half);
         EXPECT_EQ(Enabled(), 11U);
@@ -102,7 +104,20 @@ TEST_F(PythagoreTest, BlinksTenTimesWithAClickEach) {
     }
     EXPECT_EQ(pupil.Heard(), (Names{"4", "5", "6", "7", "8", "9", "10", "1", "2"}));
     EXPECT_EQ(Enabled(), 22U);
-    EXPECT_GT(*pupil.program.stage().NextDue(), pupil.platform.now + 200) << "still awake after the blink";
+    EXPECT_GT(pupil.program.stage().NextDue().value_or(0), pupil.platform.now + 200)
+        << "still awake after the blink";
+}
+
+TEST(Pythagore, FullCounterStopsTheRunBeforeTheAnswer) {
+    Counters counters;
+    counters.PythagoreSolves = TaggedNumber::Long(2147483647);
+    Pupil pupil(counters);
+    const Pythagore& screen = pupil.screens.pythagore;
+    pupil.Click(pupil.screens.depart.pytha);
+    pupil.Click(screen.rangee[5]);
+    pupil.ClickIntoFull(screen.colonne[6], "PythagoreSolves");
+    EXPECT_EQ(pupil.Heard(), (Names{"5", "1", "2"}));
+    EXPECT_EQ(screen.operation.caption(), "5 que multiplie ?? = ??");
 }
 
 TEST_F(PythagoreTest, LeavingDropsAHalfMadePair) {
@@ -167,39 +182,6 @@ TEST_F(PythagoreTest, ANewerBlinkGoesFirst) {
         EXPECT_EQ(rest, older_flashes);
         EXPECT_EQ(screen.cachelong.box().top, 275_px) << "the older goes on with the newer's bars";
     }
-}
-
-// Records in which order boxes and numbers are painted, and in which colours.
-class PaintedNumbers final : public TextCanvas {
-  public:
-    void FillBox(const Rect&, Color color, int) override {
-        if (color == Color{255, 255, 0}) numbers_before_bars = colors.size();
-    }
-    void DrawTextLine(Point, std::string_view line, const Font&, Color color) override {
-        if (line.size() <= 2) colors.push_back(color);
-    }
-
-    std::vector<Color> colors;  // of the 22 numbers
-    std::size_t numbers_before_bars = 99;
-};
-
-TEST_F(PythagoreTest, ChosenNumbersAreSeenOnTheBars) {
-    const auto paint = [this] {
-        PaintedNumbers canvas;
-        pupil.program.stage().Paint(canvas, {0, 0, kPageWidth, kPageHeight});
-        return canvas;
-    };
-    const Color red{255, 0, 0};
-    EXPECT_EQ(paint().colors, std::vector<Color>(22, red));
-    pupil.program.stage().TakeDamage();
-    pupil.Click(screen.rangee[6]);
-    EXPECT_TRUE(pupil.program.stage().TakeDamage().Contains({225_px, 85_px}))
-        << "the closed side looks closed";
-    const auto half = paint();
-    EXPECT_EQ(std::count(half.colors.begin(), half.colors.end(), red), 11);
-    EXPECT_EQ(half.numbers_before_bars, 99U) << "bars before the pair is whole";
-    pupil.Click(screen.colonne[6]);
-    EXPECT_EQ(paint().numbers_before_bars, 0U);
 }
 
 }  // namespace

@@ -1,66 +1,92 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <sstream>
 
 #include "support/pupil.h"
+#include "support/writing_canvas.h"
 
 namespace {
 
-// Writes down all that is painted.
-class WritingCanvas final : public Canvas {
-  public:
-    void DrawPicture(const Picture& picture, Point at) override {
-        out << "picture " << static_cast<const HeadlessPicture&>(picture).source << At(at) << '\n';
-    }
-    void FillBox(const Rect& box, Color color, int radius) override { Box("fill", box, color, radius); }
-    void FrameBox(const Rect& box, Color color, int radius) override { Box("frame", box, color, radius); }
-    void FillPolygon(std::span<const Point> corners, Color color) override {
-        out << "polygon" << At(corners.front()) << In(color) << '\n';
-    }
-    void DrawLine(Point from, Point to, int width, Color color) override {
-        out << "line" << At(from) << At(to) << " wide " << width << In(color) << '\n';
-    }
-    void DrawTextLine(Point at, std::string_view line, const Font& font, Color color) override {
-        out << "text" << At(at) << " high " << font.height << (font.bold ? " bold" : "") << In(color) << " |"
-            << line << "|\n";
-    }
+// What is painted is written down in tests/design. Where it is changed on purpose, what is painted now takes
+// the place of its file there.
+void ExpectAsDrawn(const std::string& name, const WritingCanvas& canvas) {
+    std::ostringstream drawn;
+    drawn << std::ifstream(DESIGN_DIR + name + ".txt").rdbuf();
+    if (canvas.out.str() == drawn.str()) return;
+    std::ofstream(name + ".txt") << canvas.out.str();
+    ADD_FAILURE() << "what is painted now stands in " << name << ".txt, in the folder of this run";
+}
 
-    std::ostringstream out;
+void ExpectAsDrawn(const std::string& name, const Form& page) {
+    WritingCanvas canvas;
+    page.Paint(canvas, {0, 0, kPageWidth, kPageHeight});
+    ExpectAsDrawn(name, canvas);
+}
 
-  private:
-    static std::string At(Point point) {
-        return " " + std::to_string(point.x) + "," + std::to_string(point.y);
-    }
-    static std::string In(Color color) {
-        return " in " + std::to_string(color.red) + "," + std::to_string(color.green) + "," +
-               std::to_string(color.blue);
-    }
-    void Box(const char* kind, const Rect& box, Color color, int radius) {
-        out << kind << At({box.left, box.top}) << " " << box.width << "x" << box.height << " round " << radius
-            << In(color) << '\n';
-    }
-};
-
-// The pages as they are designed, before any of them is shown: every text, place, size and colour is written
-// down in tests/design. Where a page is changed on purpose, what is painted now takes that file's place.
-TEST(Design, EveryPageIsPaintedAsItWasDrawn) {
+// Each page before anything is done there, and where exercises have second steps, or bars cross under the
+// numbers.
+TEST(Design, Pages) {
     Pupil pupil;
     Screens& screens = pupil.screens;
-    screens.bilan.Fill();
-    const std::pair<const char*, const Form*> pages[] = {
-        {"depart", &screens.depart.form},       {"apprendre", &screens.apprendre.form},
-        {"lecon", &screens.leçon.form},         {"pythagore", &screens.pythagore.form},
-        {"exercices", &screens.exercices.form}, {"bilan", &screens.bilan.form}};
-    for (const auto& [name, page] : pages) {
-        WritingCanvas canvas;
-        page->Paint(canvas, {0, 0, kPageWidth, kPageHeight});
-        std::ostringstream drawn;
-        drawn << std::ifstream(DESIGN_DIR + std::string(name) + ".txt").rdbuf();
-        if (canvas.out.str() == drawn.str()) continue;
-        std::ofstream(name + std::string(".txt")) << canvas.out.str();
-        ADD_FAILURE() << "what is painted now stands in " << name << ".txt, in the folder of this run";
+    ExpectAsDrawn("depart", screens.depart.form);
+    ExpectAsDrawn("apprendre", screens.apprendre.form);
+    ExpectAsDrawn("lecon", screens.leçon.form);
+    ExpectAsDrawn("pythagore", screens.pythagore.form);
+    ExpectAsDrawn("exercices", screens.exercices.form);
+    pupil.ChooseTable(7);
+    pupil.Click(screens.apprendre.multiple.ui.oui);
+    ExpectAsDrawn("apprendre-2", screens.apprendre.form);
+    pupil.Click(screens.apprendre.retour);
+    pupil.Heard();
+    pupil.OpenExercises();
+    pupil.Click(screens.exercices.membership.ui.oui);
+    pupil.Step(screens.exercices.factor_pair.ui.flech3, 1);
+    pupil.Click(screens.exercices.factor_pair.ui.chiffre4);
+    ExpectAsDrawn("exercices-2", screens.exercices.form);
+    pupil.Click(screens.exercices.fin);
+    pupil.Click(screens.depart.pytha);
+    pupil.Click(screens.pythagore.colonne[8]);
+    pupil.Click(screens.pythagore.rangee[7]);
+    ExpectAsDrawn("pythagore-2", screens.pythagore.form);
+}
+
+TEST(Design, ReportWithEveryCounterInItsPlace) {
+    Counters counters;
+    for (std::int16_t i = 0; i < kStoredTables; ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        counters.TableConsultations[at] = static_cast<std::int16_t>(100 + i);
+        counters.TableExercises[at] = static_cast<std::int16_t>(20000 + i);
+        counters.TableRight[at] = static_cast<std::int16_t>(300 + i);
+        counters.TableWrong[at] = static_cast<std::int16_t>(-32768 + i);
     }
+    counters.PuzzleCount = 32767;
+    counters.PuzzleRight = -3;
+    counters.PuzzleWrong = 12;
+    Pupil pupil(counters);
+    pupil.Click(pupil.screens.depart.dates);
+    ExpectAsDrawn("bilan", pupil.screens.bilan.form);
+}
+
+// The pictures of every table, and what is left of them on the way back.
+TEST(Design, Tables) {
+    Pupil pupil;
+    const Apprendre& screen = pupil.screens.apprendre;
+    WritingCanvas canvas;
+    const auto draw = [&] {
+        for (const Control* control : screen.form.controls()) {
+            if (dynamic_cast<const Image*>(control)) control->Paint(canvas);
+        }
+    };
+    for (int table = 12; table >= 2; --table) {
+        pupil.ChooseTable(table);
+        canvas.out << screen.titre.caption() << '\n';
+        draw();
+        pupil.Click(screen.retour);
+        pupil.Heard();
+    }
+    canvas.out << "RETOUR\n";
+    draw();
+    ExpectAsDrawn("tables", canvas);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <fstream>
 #include <random>
 #include <sstream>
+#include <stdexcept>
 
 #include "support/run_time_error.h"
 
@@ -21,6 +22,10 @@ std::string ReadWhole(const std::filesystem::path& file) {
     std::ostringstream bytes;
     bytes << std::ifstream(file, std::ios::binary).rdbuf();
     return bytes.str();
+}
+
+std::string Within(const std::filesystem::path& folder, const std::filesystem::path& file) {
+    return file.lexically_relative(folder).generic_string();
 }
 
 // Of a PNG file this platform reads the size alone, which stands behind the mark and a name.
@@ -50,9 +55,9 @@ HeadlessPlatform::~HeadlessPlatform() {
 }
 
 PicturePtr HeadlessPlatform::LoadPicture(const std::filesystem::path& file) {
+    calls.push_back("load " + Within(folder, file));
     PicturePtr picture = ReadPicture(file.filename().string(), ReadWhole(file));
     if (!picture) throw FileError("Image introuvable ou illisible", file);
-    calls.push_back("load " + file.filename().string());
     return picture;
 }
 
@@ -76,20 +81,20 @@ Size HeadlessPlatform::MeasureText(std::string_view line, const Font& font) {
 }
 
 void HeadlessPlatform::StartSound(const std::filesystem::path& file) {
-    calls.push_back("start " + file.filename().string());
+    calls.push_back("start " + Within(folder, file));
     sounds.push_back(file.filename().string());
 }
 
 void HeadlessPlatform::ReplaceContent(const std::filesystem::path& file, std::span<const std::byte> bytes) {
-    calls.push_back("write " + file.filename().string());
-    std::ofstream stream(file, std::ios::binary);
+    calls.push_back("write " + Within(folder, file));
+    std::ofstream stream(disk_full ? std::filesystem::path() : file, std::ios::binary);
     for (const std::byte byte : bytes) stream.put(static_cast<char>(byte));
     if (!stream) throw FileError("Fichier impossible à écrire", file);
 }
 
 Platform::WindowHandle HeadlessPlatform::FindWindowA(const char* class_name, const char* title) {
     calls.push_back("find <" + std::string(class_name) + "> <" + title + ">");
-    return std::string(class_name) == "Shell_traywnd" ? 77 : 0;
+    return std::string(class_name) == "Shell_traywnd" ? taskbar : 0;
 }
 
 void HeadlessPlatform::SetWindowPos(WindowHandle window, WindowHandle insert_after, int x, int y, int width,
@@ -102,7 +107,8 @@ void HeadlessPlatform::SetWindowPos(WindowHandle window, WindowHandle insert_aft
 
 int HeadlessPlatform::EnumDisplaySettingsA(std::int32_t mode, DisplayModeRecord& record) {
     calls.push_back("mode " + std::to_string(mode));
-    if (mode >= modes) return 0x10000;  // only the low 16 bits of a result count
+    if (mode > modes) throw std::logic_error("asked for modes past the last");
+    if (mode == modes) return 0x10000;  // only the low 16 bits of a result count
     record.dmBitsPerPel = static_cast<std::uint32_t>(8 * (mode + 1));
     return 1;
 }
@@ -112,6 +118,8 @@ void HeadlessPlatform::ChangeDisplaySettingsA(const DisplayModeRecord& record, s
     call << "change " << record.dmPelsWidth << "x" << record.dmPelsHeight << "x" << record.dmBitsPerPel
          << " fields " << std::hex << record.dmFields << " flags " << flags;
     calls.push_back(call.str());
+    screen_width = static_cast<int>(record.dmPelsWidth);
+    screen_height = static_cast<int>(record.dmPelsHeight);
 }
 
 void HeadlessPlatform::WriteData(const std::string& name, const std::string& bytes) const {

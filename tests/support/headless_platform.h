@@ -18,21 +18,13 @@ class HeadlessPicture final : public Picture {
     int x, y, width, height;
 };
 
-// Records the texts that a page shows, in the order of painting.
-class TextCanvas : public Canvas {
-  public:
-    void DrawPicture(const Picture&, Point) override {}
-    void FillBox(const Rect&, Color, int) override {}
-    void FrameBox(const Rect&, Color, int) override {}
-    void FillPolygon(std::span<const Point>, Color) override {}
-    void DrawLine(Point, Point, int, Color) override {}
-    void DrawTextLine(Point, std::string_view line, const Font&, Color) override { texts.emplace_back(line); }
-
-    std::vector<std::string> texts;
-};
+// Where a picture was taken from: its file, "memory", or nothing where there is none.
+inline std::string SourceOf(const PicturePtr& picture) {
+    return picture ? static_cast<const HeadlessPicture&>(*picture).source : "";
+}
 
 // A platform of the tests: it records sounds and system calls, its clock moves when the test moves it, its
-// display and its texts are what the test says. Its folder is a temporary one with a data folder in it.
+// display obeys, its texts are what the test says. Its folder is a temporary one with a data folder in it.
 class HeadlessPlatform : public Platform {
   public:
     HeadlessPlatform();
@@ -63,8 +55,11 @@ class HeadlessPlatform : public Platform {
     std::string ReadData(const std::string& name) const;
 
     std::filesystem::path folder;
-    std::vector<std::string> calls;   // everything that was asked of the system, in order
+    std::vector<std::string>
+        calls;  // everything that was asked of the system, in order, with the files' places
     std::vector<std::string> sounds;  // the names of the sound files started, in order
+    bool disk_full = false;
+    WindowHandle taskbar = 77;
     std::int64_t now = 1000;
     int screen_width = 1024;
     int screen_height = 768;

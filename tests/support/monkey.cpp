@@ -29,6 +29,7 @@ Point Monkey::OnSomething(const Stage& stage) {
     std::vector<const Control*> choices;
     std::copy_if(stage.front()->controls().begin(), stage.front()->controls().end(),
                  std::back_inserter(choices), [](const Control* control) { return control->Reacts(); });
+    if (choices.empty()) return at_;
     const Rect& box =
         choices.at(static_cast<std::size_t>(random_.Draw(static_cast<int>(choices.size()))))->box();
     return {box.left + random_.Draw(box.width), box.top + random_.Draw(box.height)};

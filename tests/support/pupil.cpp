@@ -14,13 +14,7 @@ Point Middle(const Rect& box) {
 
 }  // namespace
 
-Pupil::Pupil(const std::function<void(HeadlessPlatform&)>& prepare)
-    : program(platform, random), screens(program.screens()) {
-    prepare(platform);
-    program.Load();
-}
-
-void Pupil::StartWith(const Counters& counters) {
+Pupil::Pupil(const Counters& counters) : program(platform, random), screens(program.screens()) {
     UsageRecord record;
     record.counters = counters;
     const auto bytes = ToBytes(record);
@@ -89,28 +83,76 @@ void Pupil::Wait(std::int64_t milliseconds) {
     }
 }
 
-std::vector<std::string> Pupil::Heard() {
-    const std::vector<std::string> since(platform.sounds.begin() + static_cast<std::ptrdiff_t>(heard_),
-                                         platform.sounds.end());
-    heard_ = platform.sounds.size();
-    return since;
+void Pupil::Expect(std::vector<Draws> all, int place, const Draws& draws) {
+    if (place >= 0) all.at(static_cast<std::size_t>(place)) = draws;
+    for (const Draws& expected : all) random.Expect(expected);
 }
 
-std::vector<std::string> Pupil::Seen() const {
-    TextCanvas canvas;
-    program.stage().Paint(canvas, {0, 0, kPageWidth, kPageHeight});
-    return canvas.texts;
+void Pupil::ExpectTable(int place, const Draws& draws) {
+    Expect({{kReseed, {2, 0}, {6, 0}, {6, 0}},     // once and once the table
+            {kReseed, {2, 0}, {20, 0}, {14, 0}},   // once and three times the table
+            {{26, 0}},                             // A
+            {kReseed, {12, 1}, {12, 0}, {3, 0}}},  // twice and once the table
+           place, draws);
+}
+
+void Pupil::ChooseTable(int table, int place, const Draws& draws) {
+    ExpectTable(place, draws);
+    Click(screens.depart.chiffre[table - kFirstTable]);
+    EXPECT_EQ(Heard(), Names{"5"});
+}
+
+void Pupil::ExpectExercises(int place, const Draws& draws) {
+    random.Expect({kReseed});
+    Expect({{kReseed, {12, 3}, {11, 4}, {11, 4}},                  // 24, table of 6
+            {{11, 5}, {11, 6}},                                    // 7 X 8
+            {{10, 0}, {10, 5}},                                    // 3 X 8
+            {{10, 5}, {10, 2}},                                    // 7 X 4
+            {kReseed, kReseed, {2, 0}, {9, 3}, {12, 3}, {12, 5}},  // 24 + 36
+            {{7, 4}, {12, 11}}},                                   // SOL X 12
+           place, draws);
+}
+
+void Pupil::OpenExercises(int place, const Draws& draws) {
+    ExpectExercises(place, draws);
+    Click(screens.depart.exos);
+    EXPECT_EQ(Heard(), Names{"5"});
+}
+
+Names Pupil::Heard() {
+    const Names since(platform.sounds.begin() + static_cast<std::ptrdiff_t>(heard_), platform.sounds.end());
+    heard_ = platform.sounds.size();
+    return since;
 }
 
 bool Pupil::Sees(const Form& form) const {
     return program.stage().front() == &form;
 }
 
-Counters Pupil::SavedCounters() const {
+Counters Pupil::Quit() {
+    Click(screens.depart.fin);
     return LoadUsageRecord(DataFile(platform, "18")).counters;
 }
 
-Counters Pupil::Quit() {
-    Click(screens.depart.fin);
-    return SavedCounters();
+void TryOut(Pupil& pupil, const UpDown& arrow, const Label& answer, const Names& values) {
+    pupil.Heard();
+    const std::string untouched = answer.caption();
+    pupil.Step(arrow, -1);
+    EXPECT_EQ(answer.caption(), untouched);
+    pupil.Step(arrow, static_cast<int>(values.size()));
+    EXPECT_EQ(pupil.Heard().size(), values.size() - 1);
+    Names read;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        read.insert(read.begin(), answer.caption());
+        pupil.Step(arrow, -1);
+    }
+    EXPECT_EQ(read, values);
+    EXPECT_EQ(pupil.Heard().size(), values.size() - 1);
+}
+
+Names Numbers(const std::string& before, int first, int last, int step) {
+    Names numbers;
+    for (int number = first; number <= last; number += step)
+        numbers.push_back(before + std::to_string(number));
+    return numbers;
 }

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -12,15 +11,13 @@
 #include "support/headless_platform.h"
 #include "support/scripted_random.h"
 
+using Names = std::vector<std::string>;
+
 // The whole program as a pupil uses it: with the pointer, eyes and ears.
 class Pupil {
   public:
-    // Starts the program, in a data folder that prepare has changed.
-    Pupil() : Pupil([](HeadlessPlatform&) {}) {}
-    explicit Pupil(const std::function<void(HeadlessPlatform&)>& prepare);
-
-    // Starts the program anew, with these counters in its file.
-    void StartWith(const Counters& counters);
+    // Starts the program with these counters in its file.
+    explicit Pupil(const Counters& counters = {});
 
     // Moves onto a control, presses and releases. Click() fails the test when the pointer cannot find the
     // control, Tap() does not mind.
@@ -36,28 +33,37 @@ class Pupil {
     // Lets time pass, a millisecond at a time.
     void Wait(std::int64_t milliseconds);
 
+    // Script what the exercises of a screen draw when it is shown; the draws of one, by its place, may be
+    // given.
+    void ExpectTable(int place = -1, const Draws& draws = {});
+    void ExpectExercises(int place = -1, const Draws& draws = {});
+    // Script that and open the screen.
+    void ChooseTable(int table, int place = -1, const Draws& draws = {});
+    void OpenExercises(int place = -1, const Draws& draws = {});
+
     // The names of the sounds started since the last call.
-    std::vector<std::string> Heard();
-    // The texts of the page shown, top controls last.
-    std::vector<std::string> Seen() const;
+    Names Heard();
     bool Sees(const Form& form) const;
+
+    // Clicks SORTIE and reads what was saved.
+    Counters Quit();
 
     HeadlessPlatform platform;
     ScriptedRandom random;
     Program program;
     Screens& screens;
 
-    Counters SavedCounters() const;
-    // Clicks SORTIE and reads what was saved.
-    Counters Quit();
-
   private:
+    void Expect(std::vector<Draws> all, int place, const Draws& draws);
     // The middle of a control, or its corner where another control covers the middle.
     Point On(const Control& control) const;
 
     std::size_t heard_ = 0;
 };
 
-inline const std::string kGoOn = "\rCliquez sur Continuer pour un autre exercice.";
+// Puts an arrow through its values, which it steps through both ways and never passes. Each change, and
+// nothing else, is heard and read in its answer.
+void TryOut(Pupil& pupil, const UpDown& arrow, const Label& answer, const Names& values);
 
-using Names = std::vector<std::string>;
+// Numbers as answers show them, up to the last one.
+Names Numbers(const std::string& before, int first, int last, int step = 1);

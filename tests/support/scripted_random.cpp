@@ -2,26 +2,19 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 ScriptedRandom::~ScriptedRandom() {
-    EXPECT_TRUE(done()) << script_.size() << " scripted draws left over";
+    EXPECT_TRUE(script_.empty()) << script_.size() << " scripted draws left over";
 }
 
-void ScriptedRandom::Randomize() {
-    EXPECT_EQ(Next().bound, 0) << "reseeded where a draw was expected";
-}
-
-int ScriptedRandom::Draw(int bound) {
-    const ScriptedDraw draw = Next();
-    EXPECT_EQ(draw.bound, bound);
-    return draw.value;
-}
-
-ScriptedDraw ScriptedRandom::Next() {
-    if (script_.empty()) {
-        ADD_FAILURE() << "a draw that the script does not have";
-        return {-1, 0};
-    }
+int ScriptedRandom::Next(int bound) {
+    const auto text = [](int of) { return of == 0 ? "reseeding" : "a draw of " + std::to_string(of); };
+    if (script_.empty()) throw std::logic_error(text(bound) + " that no script has");
     const ScriptedDraw draw = script_.front();
     script_.pop_front();
-    return draw;
+    if (draw.bound != bound) throw std::logic_error(text(bound) + " instead of " + text(draw.bound));
+    if (draw.value < 0 || draw.value >= std::max(bound, 1))
+        throw std::logic_error("no value of " + text(bound));
+    return draw.value;
 }

@@ -10,25 +10,24 @@ struct ScriptedDraw {
     int value;
 };
 
+using Draws = std::vector<ScriptedDraw>;
+
 // Reseeding, where a script expects it.
 inline constexpr ScriptedDraw kReseed{0, 0};
 
-// Gives the draws of a script, each of which states the bound it expects. A draw or a reseeding that the
-// script does not have at that point fails the test, and so does one left over at the end.
+// Gives the draws of a script, each of which states the bound it expects. Whatever the script does not have
+// at that point is thrown, which ends the test as failed; draws left over at the end fail it too.
 class ScriptedRandom final : public Random {
   public:
     ~ScriptedRandom() override;
 
-    void Expect(const std::vector<ScriptedDraw>& draws) {
-        script_.insert(script_.end(), draws.begin(), draws.end());
-    }
-    bool done() const { return script_.empty(); }
+    void Expect(const Draws& draws) { script_.insert(script_.end(), draws.begin(), draws.end()); }
 
-    void Randomize() override;
-    int Draw(int bound) override;
+    void Randomize() override { Next(0); }
+    int Draw(int bound) override { return Next(bound); }
 
   private:
-    ScriptedDraw Next();
+    int Next(int bound);
 
     std::deque<ScriptedDraw> script_;
 };

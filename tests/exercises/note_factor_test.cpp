@@ -1,0 +1,36 @@
+#include "support/exercise.h"
+
+namespace {
+
+Exercise NoteFactor(Screens& screens) {
+    const auto& ui = screens.exercices.note_factor.ui;
+    Exercise exercise{screens.exercices.form, 5, ui.texte5, ui.flech8, ui.texte5, ui.encor_six, {}};
+    const struct {
+        Draws draws;
+        std::string question;
+        int factor;
+        std::string note;
+    } cases[] = {{{{7, 4}, {12, 11}}, "X 12 = 84", 7, "SOL"},
+                 {{{7, 6}, {12, 0}}, "X 1 = 9", 9, "SI"},
+                 {{{7, 0}, {12, 6}}, "X 7 = 21", 3, "DO"}};
+    for (const auto& [draws, question, factor, note] : cases) {
+        const std::string asked =
+            "Sachant que DO=3, RE=4 ... LA=8, SI=9, entrez votre réponse grâce aux flèches puis cliquez sur "
+            "cette réponse pour la correction.|DO|{}|^0";
+        const std::string told = "{} ! C'est {} car {} = {} donc \r {} {}{}|{}|{}|Continuer";
+        for (const std::string& given : {note, std::string("RE"), std::string("DO")}) {
+            const bool right = given == note;
+            const Deed end(ui.chiffre9, Put(told, {right ? "Bravo" : "Erreur", note, note, factor, factor,
+                                                   question, kGoOn, given, question}));
+            Way way{draws,   Put(asked, {question}), {{ui.flech8, right ? factor - 3 : 1}, end}, right,
+                    "ahtc+", right ? "ahtc" : "ac"};
+            if (given == "DO") way.deeds = {end};  // the first note is an answer as it stands
+            exercise.ways.push_back(way);
+        }
+    }
+    return exercise;
+}
+
+INSTANTIATE_TEST_SUITE_P(NoteFactor, ExerciseTest, testing::Values(NoteFactor));
+
+}  // namespace
