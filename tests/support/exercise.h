@@ -25,7 +25,7 @@ struct Way {
     // were raised.
     std::string before_exercises;
     std::string before_verdict;
-    int table = 0;  // that was chosen for the learning screen
+    int table;  // that was chosen for the learning screen
 };
 
 // An exercise of the learning or of the exercises screen, with all that is known of it.
@@ -38,6 +38,11 @@ struct Exercise {
     const Label& encore;
     std::vector<Way> ways;
     std::function<void()> check = [] {};  // of what else has to hold whenever it is looked at
+
+    void Add(const Draws& draws, const std::string& asked, const std::vector<Deed>& deeds, bool right,
+             const char* before_exercises, const char* before_verdict, int table = 0) {
+        ways.push_back({draws, asked, deeds, right, before_exercises, before_verdict, table});
+    }
 };
 
 using ExerciseOf = Exercise (*)(Screens&);
