@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "support/pupil.h"
 
 // What a pupil does in an exercise: enters a value with an arrow, or clicks a label and then sees this.
@@ -21,8 +23,7 @@ struct Way {
     std::vector<Deed> deeds;  // the last one ends the exercise
     bool right;
     // What the last click has done before it runs into a full counter, of exercises or of its verdict:
-    // buttons or arrows hidden (a), heard (h), told (t), "Continuer" shown (c), and how many other counters
-    // were raised.
+    // buttons or arrows hidden (a), heard (h), told (t), "Continuer" shown (c), another counter raised (+).
     std::string before_exercises;
     std::string before_verdict;
     int table;  // that was chosen for the learning screen
