@@ -10,6 +10,9 @@ Exercise FactorPair(Screens& screens) {
         EXPECT_EQ(ui.chiffre5.box().left, ui.enonce3.box().right() + 3_px);
         EXPECT_EQ(ui.flech4.box().left, ui.chiffre5.box().left - 8_px);
     };
+    const std::string no_divisor =
+        " On peut trouver 28 dans les Tables de Multiplication par 4 et par 7 !\r 28 = 4 X 7 ! Cliquez sur "
+        "Continuer pour un autre exercice.";
     const struct {
         Draws draws;
         int product, first;
@@ -21,29 +24,24 @@ Exercise FactorPair(Screens& screens) {
         {{{10, 0}, {10, 5}}, 24, 6, 8, " 24 = 6 X 4 !" + kGoOn},
         // The second factor is drawn again until it differs from the first.
         {{{10, 9}, {10, 9}, {10, 9}, {10, 8}}, 132, 11, 1, " 132 = 11 X 12 !" + kGoOn},
-        {{{10, 1}, {10, 4}},
-         28,
-         3,
-         0,
-         " On peut trouver 28 dans les Tables de Multiplication par 4 et par 7 !\r 28 = 4 X 7 ! Cliquez sur "
-         "Continuer pour un autre exercice."},
+        {{{10, 1}, {10, 4}}, 28, 3, 0, no_divisor},
     };
     for (const auto& [draws, product, first, second, correction] : cases) {
         const bool right = correction.empty();
         const std::string question =
             Put("Dans quelle Table de Multiplication puis-je trouver {} ?|", {product});
         const std::string verdict = (right ? kBravo : "Erreur !" + correction) + "|Continuer";
-        Way way{draws, question + "??|" + kEnterOnTwoLines + "|^3", {{ui.flech3, first}}, right, "aht+", "a"};
+        const std::string asked = question + "??|" + kEnterOnTwoLines + "|^3";
+        const Deed enter(ui.flech3, first);
         if (second == 0) {
-            way.deeds.push_back({ui.chiffre4, Put("{} {}|{}", {question, first, verdict})});
-            way.before_exercises = "a+";
-        } else {
-            const std::string begun = Put(" {} =  {} X|", {product, first});
-            way.deeds.push_back({ui.chiffre4, begun + "??|" + kNowEnter + "|^0"});
-            way.deeds.push_back({ui.flech4, second});
-            way.deeds.push_back({ui.chiffre5, Put("{} {}|{}", {begun, second, verdict})});
+            const Deed end(ui.chiffre4, Put("{} {}|{}", {question, first, verdict}));
+            exercise.Add(draws, asked, {enter, end}, right, "a+", "a");
+            continue;
         }
-        exercise.ways.push_back(way);
+        const std::string begun = Put(" {} =  {} X|", {product, first});
+        const Deed go_on(ui.chiffre4, begun + "??|" + kNowEnter + "|^0");
+        const Deed end(ui.chiffre5, Put("{} {}|{}", {begun, second, verdict}));
+        exercise.Add(draws, asked, {enter, go_on, {ui.flech4, second}, end}, right, "aht+", "a");
     }
     return exercise;
 }

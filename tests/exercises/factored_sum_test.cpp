@@ -30,12 +30,8 @@ Exercise FactoredSum(Screens& screens) {
                 right ? kBravo : Put("Erreur ! {} {} = {} !{}", {question, cofactor, result, kGoOn});
             const Deed end(right ? ui.chiffre7 : ui.chiffre8,
                            Put(row, {Put(" {}", {first}), Put(" {}", {second}), message}) + "Continuer");
-            exercise.ways.push_back({draws,
-                                     Put(row, {"??", "??", kEnterBoth}) + "^0|^0",
-                                     {{ui.flech7, second}, {ui.flech6, first}, end},
-                                     right,
-                                     "ahtc+",
-                                     "ac"});
+            exercise.Add(draws, Put(row, {"??", "??", kEnterBoth}) + "^0|^0",
+                         {{ui.flech7, second}, {ui.flech6, first}, end}, right, "ahtc+", "ac");
         }
     }
     return exercise;

@@ -19,29 +19,24 @@ Exercise Membership(Screens& screens) {
     };
     for (const auto& [draws, number, table, factor] : cases) {
         const std::string question = Put(" {}|est-il un résultat de la Table de {} ?|", {number, table});
-        Way way{draws, question + "OUI|NON|Cliquez sur OUI ou NON pour répondre.", {}, false, "", ""};
-        const auto answer = [&](const std::vector<Deed>& deeds, bool right, const char* before_exercises,
-                                const char* before_verdict) {
-            way.deeds = deeds, way.right = right;
-            way.before_exercises = before_exercises, way.before_verdict = before_verdict;
-            exercise.ways.push_back(way);
-        };
+        const std::string asked = question + "OUI|NON|Cliquez sur OUI ou NON pour répondre.";
         if (factor == 0) {
             const std::string no_member =
                 Put(" {} ne fait pas partie de la Table de {} !{}|Continuer", {number, table, kGoOn});
-            answer({{ui.oui, question + "Erreur !" + no_member}}, false, "ahtc+", "a");
-            answer({{ui.non, question + "C'est juste !" + no_member}}, true, "", "ahtc+");
+            exercise.Add(draws, asked, {{ui.oui, question + "Erreur !" + no_member}}, false, "ahtc+", "a");
+            exercise.Add(draws, asked, {{ui.non, question + "C'est juste !" + no_member}}, true, "", "ahtc+");
             continue;
         }
         const std::string solution = Put(" {} = {} X {} !{}", {number, factor, table, kGoOn});
-        answer({{ui.non, question + "Erreur !" + solution + "|Continuer"}}, false, "", "ahtc+");
+        exercise.Add(draws, asked, {{ui.non, question + "Erreur !" + solution + "|Continuer"}}, false, "",
+                     "ahtc+");
         const std::string row = question + " {} =|{}| X {}|{}|{}";
         const Deed oui(ui.oui, Put(row, {number, "??", table, kNowEnter, "^0"}));
         for (const int given : {factor, factor + 1}) {
             const bool right = given == factor;
             const std::string message = right ? kBravo : "Faux !" + solution;
             const Deed end(ui.chiffre2, Put(row, {number, Put(" {}", {given}), table, message, "Continuer"}));
-            answer({oui, {ui.flech1, given}, end}, right, "ahtc+", "a");
+            exercise.Add(draws, asked, {oui, {ui.flech1, given}, end}, right, "ahtc+", "a");
         }
     }
     return exercise;

@@ -17,12 +17,8 @@ Exercise MissingFactor(Screens& screens) {
             const bool right = given == answer;
             const std::string message = right ? kBravo : Put("Erreur ! {} {} !{}", {answer, question, kGoOn});
             const Deed end(ui.chiffre6, Put(" {}|{}|{}|Continuer", {given, question, message}));
-            exercise.ways.push_back({draws,
-                                     Put("??|{}|{}|^0", {question, kEnterOnTwoLines}),
-                                     {{ui.flech5, given}, end},
-                                     right,
-                                     "ht+",
-                                     right ? "ht" : ""});
+            exercise.Add(draws, Put("??|{}|{}|^0", {question, kEnterOnTwoLines}), {{ui.flech5, given}, end},
+                         right, "ht+", right ? "ht" : "");
         }
     }
     return exercise;

@@ -22,10 +22,9 @@ Exercise NoteFactor(Screens& screens) {
             const bool right = given == note;
             const Deed end(ui.chiffre9, Put(told, {right ? "Bravo" : "Erreur", note, note, factor, factor,
                                                    question, kGoOn, given, question}));
-            Way way{draws,   Put(asked, {question}), {{ui.flech8, right ? factor - 3 : 1}, end}, right,
-                    "ahtc+", right ? "ahtc" : "ac"};
-            if (given == "DO") way.deeds = {end};  // the first note is an answer as it stands
-            exercise.ways.push_back(way);
+            std::vector<Deed> deeds{{ui.flech8, right ? factor - 3 : 1}, end};
+            if (given == "DO") deeds = {end};  // the first note is an answer as it stands
+            exercise.Add(draws, Put(asked, {question}), deeds, right, "ahtc+", right ? "ahtc" : "ac");
         }
     }
     return exercise;

@@ -18,8 +18,8 @@ Exercise Product(Screens& screens) {
             const std::string message = right ? "Bravo, vous avez trouvé la bonne solution !"
                                               : Put("Erreur ! {} {} !", {question, answer});
             const Deed end(ui.chiffre3, Put("{}| {}|{}|Continuer", {question, given, message + kGoOn}));
-            exercise.ways.push_back(
-                {draws, question + "|??|" + kEnter + "|^0", {{ui.flech2, given}, end}, right, "ahtc+", "ac"});
+            exercise.Add(draws, question + "|??|" + kEnter + "|^0", {{ui.flech2, given}, end}, right, "ahtc+",
+                         "ac");
         }
     }
     return exercise;

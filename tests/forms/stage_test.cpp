@@ -106,6 +106,7 @@ TEST_F(StageTest, HeldArrowRepeatsWhileThePointerStaysOnItsHalf) {
     EXPECT_EQ(arrows.value(), 1);
     Wait(1);
     EXPECT_EQ(arrows.value(), 2);
+    EXPECT_EQ(stage.NextDue(), platform.now + 50);
     Wait(100);
     EXPECT_EQ(arrows.value(), 4);
     stage.Move(kLowerHalf);

@@ -24,13 +24,8 @@ Exercise Factoring(Screens& screens) {
             const std::string message =
                 right ? "Gagné ! Vous avez trouvé le bon résultat !" : "Erreur ! " + question + product;
             const Deed end(ui.chiffre, Put("{}|{}|{}|Continuer", {question, given, message + kGoOn}));
-            exercise.ways.push_back({draws,
-                                     question + "|??|" + kEnter + "|^0",
-                                     {{ui.fleche, given}, end},
-                                     right,
-                                     "",
-                                     "ahc+",
-                                     table});
+            exercise.Add(draws, question + "|??|" + kEnter + "|^0", {{ui.fleche, given}, end}, right, "",
+                         "ahc+", table);
         }
     }
     return exercise;

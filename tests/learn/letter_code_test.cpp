@@ -19,17 +19,11 @@ Exercise LetterCode(Screens& screens) {
         const std::string l(1, letter);
         const Deed end(ui.chiffre4, Put(told, {right ? "Bravo" : "Faux", l, number, l, table, number, table,
                                                product, kGoOn, std::string(1, given), table, product}));
-        Way way{{{26, number - 1}},
-                Put(asked, {table, product}),
-                {{ui.fleche4, given}, end},
-                right,
-                "",
-                "ahc+",
-                table};
-        exercise.ways.push_back(way);
-        if (letter != 'A') continue;
-        way.deeds = {end};  // the first letter is an answer as it stands
-        exercise.ways.push_back(way);
+        std::vector<Deed> deeds{{ui.fleche4, given}, end};
+        for (int i = 0; i < (number == 1 ? 2 : 1); ++i) {  // the first letter is an answer as it stands
+            exercise.Add({{26, number - 1}}, Put(asked, {table, product}), deeds, right, "", "ahc+", table);
+            deeds = {end};
+        }
     }
     return exercise;
 }

@@ -31,13 +31,8 @@ Exercise MissingSign(Screens& screens) {
             const Deed end(ui.signe, Put("{} ! {} {} {}{}|{}|{}|{}|Continuer",
                                          {right ? "Gagné" : "Perdu", first, signs.at(sign), rest, kGoOn,
                                           first, signs.at(given), rest}));
-            exercise.ways.push_back({draws,
-                                     Put(asked, {first, rest}),
-                                     {{ui.fleche5, static_cast<int>(given)}, end},
-                                     right,
-                                     "",
-                                     "ac+",
-                                     table});
+            exercise.Add(draws, Put(asked, {first, rest}), {{ui.fleche5, static_cast<int>(given)}, end},
+                         right, "", "ac+", table);
         }
     }
     return exercise;

@@ -27,30 +27,21 @@ Exercise Multiple(Screens& screens) {
         {2, {kReseed, {2, 1}, {50, 49}, {50, 49}, {50, 1}, {50, 0}}, " 50 + 1", 51, 0},
     };
     for (const auto& [table, draws, terms, sum, factor] : cases) {
-        Way way{draws,
-                Put("La somme de{} donne-t-elle pour résultat un multiple de {} ?\rCliquez sur OUI ou NON "
-                    "pour répondre.|OUI|NON",
-                    {terms, table}),
-                {},
-                false,
-                "",
-                "",
-                table};
-        const auto answer = [&](const std::vector<Deed>& deeds, bool right, const char* before_exercises,
-                                const char* before_verdict) {
-            way.deeds = deeds, way.right = right;
-            way.before_exercises = before_exercises, way.before_verdict = before_verdict;
-            exercise.ways.push_back(way);
-        };
+        const std::string ask =
+            "La somme de{} donne-t-elle pour résultat un multiple de {} ?\rCliquez sur OUI ou NON pour "
+            "répondre.|OUI|NON";
+        const std::string asked = Put(ask, {terms, table});
         if (factor == 0) {
             const std::string no_multiple =
                 Put("{} = {} qui n'est pas un multiple de {} !{}|Continuer", {terms, sum, table, kGoOn});
-            answer({{ui.oui, "C'est faux !" + no_multiple}}, false, "aht+", "ah");
-            answer({{ui.non, "Vous avez raison !" + no_multiple}}, true, "", "ah+");
+            exercise.Add(draws, asked, {{ui.oui, "C'est faux !" + no_multiple}}, false, "aht+", "ah", table);
+            exercise.Add(draws, asked, {{ui.non, "Vous avez raison !" + no_multiple}}, true, "", "ah+",
+                         table);
             continue;
         }
         const std::string no = "Perdu !{} = {} = {} X {} qui est donc bien un multiple de {} !{}|Continuer";
-        answer({{ui.non, Put(no, {terms, sum, factor, table, table, kGoOn})}}, false, "", "ah+");
+        exercise.Add(draws, asked, {{ui.non, Put(no, {terms, sum, factor, table, table, kGoOn})}}, false, "",
+                     "ah+", table);
         const std::string line = Put("|X {} ={} =|", {table, terms});
         const Deed oui(ui.oui, Put("Vous avez raison.\r{}|??{}??|^0|^0", {kEnterBoth, line}));
         for (const auto& [one_more, multiple_more] : {std::pair{0, 0}, {1, 0}, {0, 1}}) {
@@ -61,7 +52,8 @@ Exercise Multiple(Screens& screens) {
                                               : Put("Erreur ! {} X {} ={} = {}", {factor, table, terms, sum});
             const Deed end(one_more ? ui.chiffre2 : ui.chiffre3,
                            Put("{}{}|{}{}{}|Continuer", {message, kGoOn, first, line, second}));
-            answer({oui, {ui.fleche2, first}, {ui.fleche3, second}, end}, right, "", right ? "ac+" : "ahc+");
+            exercise.Add(draws, asked, {oui, {ui.fleche2, first}, {ui.fleche3, second}, end}, right, "",
+                         right ? "ac+" : "ahc+", table);
         }
     }
     return exercise;

@@ -31,6 +31,10 @@ TEST(Bilan, FilledAtEachOpening) {
     Pupil pupil;
     const Bilan& screen = pupil.screens.bilan;
     pupil.Click(pupil.screens.depart.bilan_utilisation);
+    for (const Label* figure : {&screen.consult[0], &screen.exos[0], &screen.juste[0], &screen.faux[0],
+                                &screen.n_exo, &screen.n_exoj, &screen.n_exof}) {
+        EXPECT_EQ(figure->caption(), "0");  // without a blank
+    }
     pupil.Click(screen.retour);
     pupil.Click(pupil.screens.depart.pytha);
     pupil.Click(pupil.screens.pythagore.retour);

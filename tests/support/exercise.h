@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "support/pupil.h"
 
 // What a pupil does in an exercise: enters a value with an arrow, or clicks a label and then sees this.
@@ -21,11 +23,10 @@ struct Way {
     std::vector<Deed> deeds;  // the last one ends the exercise
     bool right;
     // What the last click has done before it runs into a full counter, of exercises or of its verdict:
-    // buttons or arrows hidden (a), heard (h), told (t), "Continuer" shown (c), and how many other counters
-    // were raised.
+    // buttons or arrows hidden (a), heard (h), told (t), "Continuer" shown (c), another counter raised (+).
     std::string before_exercises;
     std::string before_verdict;
-    int table = 0;  // that was chosen for the learning screen
+    int table;  // that was chosen for the learning screen
 };
 
 // An exercise of the learning or of the exercises screen, with all that is known of it.
@@ -38,6 +39,11 @@ struct Exercise {
     const Label& encore;
     std::vector<Way> ways;
     std::function<void()> check = [] {};  // of what else has to hold whenever it is looked at
+
+    void Add(const Draws& draws, const std::string& asked, const std::vector<Deed>& deeds, bool right,
+             const char* before_exercises, const char* before_verdict, int table = 0) {
+        ways.push_back({draws, asked, deeds, right, before_exercises, before_verdict, table});
+    }
 };
 
 using ExerciseOf = Exercise (*)(Screens&);
