@@ -1,17 +1,23 @@
 # Sourced by the commands: the Debian packages that each purpose takes, and their installation.
 
-build_packages="cmake ninja-build googletest"
-linux_packages="g++ pkgconf qt6-base-dev qt6-wayland libsdl2-dev fonts-liberation"
+build_packages="cmake g++ googletest ninja-build"
+linux_packages="fonts-liberation libsdl2-dev pkgconf qt6-base-dev qt6-wayland"
 windows_packages="g++-mingw-w64-x86-64-posix"
-wine_packages="wine wine64 fonts-wine"
-display_packages="xvfb xdotool imagemagick python3 strace"
-fuzz_packages="clang libclang-rt-14-dev"
+wine_packages="fonts-wine wine wine64"
+display_packages="imagemagick python3 strace xdotool xvfb"
+clang_packages="clang clang-format clang-tidy libclang-rt-14-dev"
 packaging_packages="appstream debhelper desktop-file-utils fakeroot imagemagick librsvg2-bin lintian nsis"
-bench_packages="kbruch tuxmath python3-numpy python3-xlib"
+art_packages="librsvg2-bin pngquant python3 sox"
+bench_packages="kbruch python3-numpy python3-xlib tuxmath"
 
-# Installs what is missing of the named packages, or names the one line that does.
+# Installs what is missing of the named packages. Where ONZE_NO_INSTALL=1 forbids it, or the user may not, it names the
+# line that does and ends; on a system without Debian's tools it only tells what is needed.
 need() {
     local package missing=() as_root=()
+    if ! command -v dpkg-query >/dev/null; then
+        echo "Not checked, for want of dpkg-query: this needs what Debian calls $*" >&2
+        return
+    fi
     for package in "$@"; do
         [[ $(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null) == installed ]] || missing+=("$package")
     done
@@ -20,10 +26,10 @@ need() {
     if ((EUID != 0)); then
         as_root=(sudo)
         [[ -t 0 ]] || as_root+=(-n)
-        if ! "${as_root[@]}" true 2>/dev/null; then
-            echo "Packages are missing. Please run, as root: apt-get install --no-install-recommends ${missing[*]}" >&2
-            exit 1
-        fi
+    fi
+    if [[ ${ONZE_NO_INSTALL:-0} != 0 ]] || ! command -v apt-get >/dev/null || ! "${as_root[@]}" true 2>/dev/null; then
+        echo "Packages are missing. Please run, as root: apt-get install --no-install-recommends ${missing[*]}" >&2
+        exit 1
     fi
     echo "Installing ${missing[*]}"
     "${as_root[@]}" apt-get -qq update

@@ -15,7 +15,7 @@ template <class Decode>
 auto DecodeWhole(std::span<const std::byte> file, Decode decode) {
     using Pointer = decltype(decode(file));
     if (IsPng(file)) return HasPngEnd(file) ? decode(file) : Pointer();
-    const Pointer picture = decode(file);
+    Pointer picture = decode(file);
     if (!picture) return picture;
     std::vector<std::byte> longer(file.begin(), file.end());
     longer.insert(longer.end(), 1024, std::byte{0x55});

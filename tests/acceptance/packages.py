@@ -1,6 +1,7 @@
 """packages.py FOLDER PROBE: tries the packages in a folder as those do who get them."""
 
 import os
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -81,6 +82,7 @@ class Packages(unittest.TestCase):
         key = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\OnzeTables"
         return wine(WindowsProgram.prefix, "reg", "query", key)
 
+    @unittest.skipUnless(shutil.which("dpkg"), "a system without dpkg neither makes nor installs it")
     def test_debian_package(self):
         root = self.scratch / "root"
         (root / "var" / "lib" / "dpkg").mkdir(parents=True)

@@ -16,16 +16,13 @@ namespace {
 // Letters, figures and marks of French and of sums; no number is broken or below zero.
 bool IsExpected(const std::string& text) {
     static const std::string kAccented = "àâçèéêîôùûÉ";
+    static const std::string kMarks = "\r !'(),-+./:=>?";
     for (std::size_t i = 0; i < text.size(); ++i) {
         const auto c = static_cast<unsigned char>(text[i]);
         const bool number_next = i + 1 < text.size() && std::isdigit(static_cast<unsigned char>(text[i + 1]));
-        if (c >= 0x80) {
-            if (kAccented.find(text.substr(i++, 2)) % 2 != 0) return false;
-        } else if (!std::isalnum(c) && std::string("\r !'(),-+./:=>?").find(text[i]) == std::string::npos) {
-            return false;
-        } else if ((c == '.' || c == '-') && number_next) {
-            return false;
-        }
+        const bool strange = c >= 0x80 ? kAccented.find(text.substr(i++, 2)) % 2 != 0
+                                       : !std::isalnum(c) && kMarks.find(text[i]) == std::string::npos;
+        if (strange || ((c == '.' || c == '-') && number_next)) return false;
     }
     return true;
 }

@@ -13,7 +13,7 @@ namespace {
 std::filesystem::path NewFolder() {
     static int number = 0;
     const auto unique = std::to_string(std::random_device{}()) + "-" + std::to_string(++number);
-    const auto folder = std::filesystem::temp_directory_path() / ("onze tables é " + unique);
+    auto folder = std::filesystem::temp_directory_path() / ("onze tables é " + unique);
     std::filesystem::create_directories(folder / "datas");
     return folder;
 }

@@ -93,14 +93,14 @@ class WideRows {
 
 // The curve can pass the ends of a channel's range; a premultiplied colour ends at its alpha.
 void EndAtAlpha(Row& row) {
-    for (auto pixel = row.begin(); pixel != row.end(); pixel += kChannels) {
+    for (float* pixel = row.data(); pixel != row.data() + row.size(); pixel += kChannels) {
         const float alpha = pixel[kAlpha];
         for (std::size_t c = 0; c < kChannels; ++c) pixel[c] = std::min(pixel[c], alpha);
     }
 }
 
 std::uint8_t ToByte(float channel) {
-    return static_cast<std::uint8_t>(std::clamp(static_cast<int>(channel + 0.5F), 0, 255));
+    return static_cast<std::uint8_t>(std::clamp(channel + 0.5F, 0.0F, 255.0F));
 }
 
 // The new rows from one to before another, into the bytes of the whole picture.

@@ -22,7 +22,7 @@ const PageFonts::Face& PageFonts::Find(const Font& font) {
     const auto found = faces_.find(key);
     if (found != faces_.end()) return found->second;
     const QFont made = MakeFont(font);
-    return faces_.try_emplace(key, made, QFontMetricsF(made)).first->second;
+    return faces_.try_emplace(key, Face{made, QFontMetricsF(made)}).first->second;
 }
 
 Size PageFonts::Measure(std::string_view line, const Font& font) {

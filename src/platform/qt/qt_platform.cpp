@@ -23,7 +23,7 @@ std::filesystem::path FindExecutableFolder(const std::filesystem::path& started_
     std::error_code none;
     const auto itself = std::filesystem::read_symlink("/proc/self/exe");
     if (started_as.has_parent_path() && std::filesystem::equivalent(started_as, itself, none)) {
-        const auto folder = std::filesystem::canonical(started_as.parent_path());
+        auto folder = std::filesystem::canonical(started_as.parent_path());
         if (std::filesystem::is_directory(folder / "datas", none)) return folder;
     }
     return itself.parent_path();

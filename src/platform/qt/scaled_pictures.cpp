@@ -12,7 +12,7 @@ QImage::Format FastFormat(const QImage& image) {
 }
 
 QImage Scaled(const QImage& image, QSize size) {
-    const QImage fast = image.convertToFormat(FastFormat(image));
+    QImage fast = image.convertToFormat(FastFormat(image));
     if (size == image.size()) return fast;
     if (size.width() >= image.width() && size.height() >= image.height()) return Enlarged(fast, size);
     return fast.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).convertToFormat(fast.format());
@@ -24,7 +24,7 @@ QImage ScaledPictures::AtSize(const QtPicture& picture, QSize size, QSize page) 
     const qint64 key = picture.image().cacheKey();
     const QImage* kept = kept_.object(key);
     if (kept && kept->size() == size) return *kept;
-    const QImage scaled = Scaled(picture.image(), size);
+    QImage scaled = Scaled(picture.image(), size);
     // Half as much again for the small pictures on it.
     kept_.setMaxCost(kBytesPerPixel * page.width() * page.height() * 3 / 2);
     kept_.insert(key, new QImage(scaled), scaled.sizeInBytes());
