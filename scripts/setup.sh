@@ -6,7 +6,7 @@ windows_packages="g++-mingw-w64-x86-64-posix"
 wine_packages="fonts-wine wine wine64"
 display_packages="imagemagick python3 strace xdotool xvfb"
 clang_packages="clang clang-format clang-tidy libclang-rt-14-dev"
-packaging_packages="appstream debhelper desktop-file-utils fakeroot imagemagick librsvg2-bin lintian nsis"
+packaging_packages="appstream build-essential debhelper desktop-file-utils fakeroot imagemagick librsvg2-bin lintian nsis"
 art_packages="librsvg2-bin pngquant python3 sox"
 bench_packages="kbruch python3-numpy python3-xlib tuxmath"
 
@@ -43,6 +43,6 @@ build() {
     (($# == 1)) || options+=(--target "${@:2}")
     [[ -t 1 ]] || options+=(-- --quiet)
     echo "Building $preset"
-    cmake --preset "$preset" >/dev/null
+    cmake --preset "$preset" --no-warn-unused-cli >/dev/null
     cmake --build --preset "$preset" "${options[@]}"
 }
