@@ -1,4 +1,4 @@
-"""measure.py PROGRAM FLOOR WINDOWS_PROGRAM PROBE: measures programs side by side; prints a table for each platform."""
+"""measure.py PROGRAM FLOOR WINDOWS_PROGRAM: measures programs side by side; prints a table for each platform."""
 
 import argparse
 import os
@@ -205,7 +205,7 @@ def machine():
 
 def main():
     arguments = argparse.ArgumentParser(description=__doc__)
-    for name in ("program", "floor", "windows_program", "probe"):
+    for name in ("program", "floor", "windows_program"):
         arguments.add_argument(name, type=lambda file: Path(file).resolve())
     arguments.add_argument("--rounds", type=int, default=9)
     arguments.add_argument("--idle-seconds", type=int, default=60)
@@ -224,8 +224,8 @@ def main():
                 bench = Bench(screen, environment, given.rounds, given.idle_seconds)
                 print_table(subjects, bench.measure(subjects))
             if given.only != "linux":
-                with WineDesktop(desk, Path(scratch), given.probe) as wine:
-                    subjects = windows_subjects(given.windows_program, Path(scratch, "windows"))
+                with WineDesktop(desk, Path(scratch, "wine")) as wine:
+                    subjects = windows_subjects(given.windows_program, Path(scratch, "windows"), wine.prefix)
                     bench = Bench(screen, wine.environment, given.rounds, given.idle_seconds, wine.server)
                     print_table(subjects, bench.measure(subjects))
     if processes.was_busy():

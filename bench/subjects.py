@@ -9,7 +9,9 @@ from pathlib import Path
 
 import page as at
 import processes
-from programs import ROOT, WINE, LinuxProgram, WindowsProgram, install
+from desk import Desk
+from programs import ROOT, install
+from wine import WINE, WineDesk
 
 SCREENS = at.TABLE_OF_7, at.EXERCISES, at.PYTHAGORAS, at.LESSONS, at.REPORT
 BLINK = at.PYTHAGORAS, at.column(8), at.row(7)
@@ -65,7 +67,7 @@ def linux_subjects(program, floor, folder):
     picture = ROOT / "datas" / "15"
     middle = (320, 240)
     return [
-        onze_tables([], install(program, folder / "Onze Tables"), LinuxProgram.SCALE),
+        onze_tables([], install(program, folder / "Onze Tables"), Desk.SCALE),
         Subject("bare Qt window", [str(floor), str(picture)], [floor], [picture], click=middle, back=middle),
         debian_program("kbruch", "kbruch", click=(290, 300)),
         debian_program(
@@ -74,12 +76,12 @@ def linux_subjects(program, floor, folder):
     ]
 
 
-def windows_subjects(program, folder):
+def windows_subjects(program, folder, prefix):
     wine = ["/usr/lib/wine/wine64"]
-    notepad = WindowsProgram.prefix / "drive_c" / "windows" / "system32" / "notepad.exe"
+    notepad = prefix / "drive_c" / "windows" / "system32" / "notepad.exe"
     file_menu = (16, 33)
     return [
-        onze_tables(wine, install(program, folder / "Onze Tables"), WindowsProgram.SCALE),
+        onze_tables(wine, install(program, folder / "Onze Tables"), WineDesk.SCALE),
         Subject("Wine's notepad", [*wine, str(notepad)], [notepad], click=file_menu, back=file_menu),
     ]
 
@@ -87,9 +89,11 @@ def windows_subjects(program, folder):
 class WineDesktop:
     """A Wine whose programs all find one desktop with a taskbar, which is there before they start."""
 
-    def __init__(self, desk, folder, probe):
-        WindowsProgram.prepare(folder / "wine", probe)
-        self.environment = desk.environment(WINEPREFIX=str(WindowsProgram.prefix), WINEDEBUG="-all")
+    def __init__(self, desk, prefix):
+        self.prefix = prefix
+        self.environment = desk.environment(WINEPREFIX=str(prefix), WINEDEBUG="-all")
+        prefix.mkdir()
+        self._run("wineboot", "-i")
         explorer = r"HKCU\Software\Wine\Explorer"
         self._run("reg", "add", explorer, "/v", "Desktop", "/d", "shell")
         self._run("reg", "add", explorer + r"\Desktops", "/v", "shell", "/d", "1024x768")
@@ -104,7 +108,7 @@ class WineDesktop:
         self._process.wait()
 
     def server(self):
-        return processes.named("wineserver64", os.fsencode(str(WindowsProgram.prefix)))
+        return processes.named("wineserver64", os.fsencode(str(self.prefix)))
 
     def _run(self, *command):
         subprocess.run([WINE, *command], env=self.environment, check=True, stdout=subprocess.DEVNULL)

@@ -24,9 +24,3 @@ def worn():
     """A record of counters that all differ, one of them grown wide, and bytes that are none of the program's."""
     leading = struct.pack("<hh10shihhhh", 2, 1, b"0123456789", 3, 70_000, 2, 801, 2, 802)
     return leading + struct.pack("<47h", *range(900, 947)) + b"and more"
-
-
-def values(file, offsets):
-    """The 16-bit numbers at these offsets of a file."""
-    content = file.read_bytes()
-    return [struct.unpack_from("<h", content, offset)[0] for offset in offsets]

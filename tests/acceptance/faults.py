@@ -6,13 +6,11 @@ import struct
 import subprocess
 import sys
 import unittest
-from pathlib import Path
 
 import counters
 import page as at
-from desk import Desk
-from installed import Installed
-from programs import AS_A_PUPIL, LinuxProgram, NextWindowsProgram, install
+from installed import Installed, main
+from programs import install
 from tracing import Trace
 
 
@@ -42,8 +40,6 @@ FAULTS = missing, empty, cut_in_half, unreadable, a_folder
 NOT_READ = missing, unreadable, a_folder
 PICTURES = "11", "12", "13", "14", "15", "16"
 SOUNDS = [*map(str, range(1, 11)), *(f"{number}.{kind}" for number in range(1, 5) for kind in ("vic", "def"))]
-
-FULL = struct.pack("<h", 32767)
 
 
 @contextlib.contextmanager
@@ -85,38 +81,19 @@ def fill(disk):
 
 
 class Faults(Installed):
-    """What both programs are put to; the classes below bring the platform."""
-
-    @classmethod
-    def setUpClass(cls):
-        cls.desk = cls.enterClassContext(Desk())
-
     def setUp(self):
         super().setUp()
         self.old = self.file.read_bytes()
         self.new = self.old[:2] + b"\1\0" + self.old[4:]
-
-    def run_as_pupil(self):
-        return self.started(under=AS_A_PUPIL)
-
-    def quit(self, program):
-        program.page.click(at.QUIT)
-        self.assertEqual(program.wait(), 0)
-
-    def check_report(self, program, *texts):
-        report = program.report()
-        for text in texts:
-            self.assertIn(text, report)
-        self.assertEqual(program.wait(), 1, report)
 
     def check_start_stops(self, name, faults):
         file = self.folder / "datas" / name
         for fault in faults:
             with self.subTest(f"{name} is {fault.__name__}"), spoiled(file, fault):
                 before = state(self.folder)
-                with self.program(self.desk, self.executable, under=AS_A_PUPIL) as program:
-                    self.check_report(program, "introuvable ou illisible", f"datas{self.separator}{name} »")
-                    self.check_desk_untouched(program)
+                with self.program() as program:
+                    self.check_report(program, "introuvable ou illisible", f"datas{self.desk.SEPARATOR}{name} »")
+                self.assertEqual(self.desk.states(), [self.desk.AT_REST])
                 self.assertEqual(state(self.folder), before)
 
     def test_a_bad_picture_stops_the_start(self):
@@ -131,97 +108,78 @@ class Faults(Installed):
         for content, saved in ((b"", self.new), (worn[:61], worn[:60] + bytes(62))):
             with self.subTest(content):
                 self.file.write_bytes(content)
-                with self.run_as_pupil() as program:
+                with self.started() as program:
                     self.quit(program)
                 self.assertEqual(self.file.read_bytes(), saved)
 
     def test_no_sound_is_ever_an_error(self):
+        page_clicks = [at.FACTORING_MORE] * 10  # every click sound, and most probably every verdict's
+        rounds = 24
         for fault in FAULTS:
             with self.subTest(fault=fault.__name__), contextlib.ExitStack() as stack:
                 for name in SOUNDS:
                     stack.enter_context(spoiled(self.folder / "datas" / name, fault))
-                victories = defeats = 0
-                while min(victories, defeats) < 4:
-                    self.file.write_bytes(self.old)
-                    victories, defeats = self.play_sounds()
+                self.file.write_bytes(self.old)
+                program = stack.enter_context(self.started())
+                program.page.click(at.TABLE_OF_7, *page_clicks, *[at.MULTIPLE_NO, at.MULTIPLE_AGAIN] * rounds)
+                program.page.back()
+                self.quit(program)
+                done, right, wrong = counters.of_table(7)[1:]
+                counted = counters.changes(self.old, self.file.read_bytes())
+                self.assertEqual((counted[done], counted[right] + counted[wrong]), (rounds, rounds))
 
-    def play_sounds(self):
-        """A run with every click sound and, most probably, every other; the victories and defeats in it."""
-        rounds = 24
-        with self.run_as_pupil() as program:
-            page = program.page
-            page.go(at.TABLE_OF_7, at.LEARNING)
-            page.click(*[at.FACTORING_MORE] * 10, *[at.MULTIPLE_NO, at.MULTIPLE_AGAIN] * rounds)
-            page.back()
-            self.quit(program)
-        done, right, wrong = counters.values(self.file, counters.of_table(7)[1:])
-        self.assertEqual((done, right + wrong), (rounds, rounds))
-        return right, wrong
-
-    def test_a_full_disk_keeps_the_old_counters(self):
+    def test_a_full_disk_takes_the_new_counters(self):
         with small_disk(self.folder.with_name("disque")) as disk:
             self.executable = install(self.source, disk / "é")
-            with self.run_as_pupil() as program:
-                fill(disk)
-                self.check_save_fails(program)
+            self.file = self.executable.parent / "datas" / "18"
+            self.check_save_in_place(lambda: fill(disk))
 
-    def test_a_read_only_folder_keeps_the_old_counters(self):
-        with self.run_as_pupil() as program:
+    def test_a_read_only_folder_takes_the_new_counters(self):
+        self.check_save_in_place(lambda: self.file.parent.chmod(0o555))
+
+    def check_save_in_place(self, prevent_another_file):
+        with self.started() as program:
+            prevent_another_file()
+            before = {file: file.stat().st_ino for file in self.file.parent.iterdir()}
+            self.quit(program)
+        self.assertEqual(self.file.read_bytes(), self.new)
+        self.assertEqual({file: file.stat().st_ino for file in self.file.parent.iterdir()}, before)
+
+    def test_read_only_counters_in_a_read_only_folder_stay_as_they_are(self):
+        with self.started() as program:
+            self.file.chmod(0o444)
             self.file.parent.chmod(0o555)
-            self.check_save_fails(program)
-
-    def check_save_fails(self, program):
-        datas = self.executable.parent / "datas"
-        before = state(datas)
-        program.page.go(at.TABLE_OF_7, at.LEARNING)
-        program.page.back()
-        program.page.click(at.QUIT)
-        self.check_report(program, self.SAVE_FAILED, f"datas{self.separator}18 »")
-        self.check_desk_left(program)
-        after = state(datas)
-        before.pop(datas), after.pop(datas)  # a file was made in it, and taken away again
-        self.assertEqual(after, before)
+            self.check_run_ends(program, [at.QUIT], self.desk.SAVE_FAILED, f"datas{self.desk.SEPARATOR}18 »")
 
     def test_a_full_counter_ends_the_run(self):
         consultations, exercises, *_ = counters.of_table(7)
-        exercises_screen = at.EXERCISES, at.EXERCISES_SCREEN
         for offset, name, way in (
             (consultations, "TableConsultations(5)", [at.TABLE_OF_7]),
-            (exercises, "TableExercises(5)", [at.TABLE_OF_7, at.LEARNING, at.MULTIPLE_NO]),
-            (counters.PUZZLE_COUNT, "PuzzleCount", [*exercises_screen, at.PRODUCT_MORE, at.PRODUCT_ANSWER]),
+            (exercises, "TableExercises(5)", [at.TABLE_OF_7, at.MULTIPLE_NO]),
+            (counters.PUZZLE_COUNT, "PuzzleCount", [at.EXERCISES, at.PRODUCT_MORE, at.PRODUCT_ANSWER]),
         ):
             with self.subTest(name):
-                self.file.write_bytes(self.old[:offset] + FULL + self.old[offset + 2 :])
-                before = state(self.folder)
-                with self.run_as_pupil() as program:
-                    for step in way:
-                        if step in at.SCREENS:
-                            program.page.wait_for(step)
-                        else:
-                            program.page.click(step)
-                    self.check_report(program, f"Dépassement de capacité du compteur « {name} ».")
-                    self.check_desk_left(program)
-                self.assertEqual(state(self.folder), before)
+                self.file.write_bytes(self.old[:offset] + struct.pack("<h", 32767) + self.old[offset + 2 :])
+                with self.started() as program:
+                    self.check_run_ends(program, way, f"Dépassement de capacité du compteur « {name} ».")
 
-    def test_a_tagged_counter_grows_wide(self):
-        value_at = counters.LESSON_CONSULTATIONS
-        self.file.write_bytes(self.old[:value_at] + FULL + self.old[value_at + 2 :])
-        for value in (32768, 32769):
-            with self.run_as_pupil() as program:
-                program.page.go(at.LESSONS, at.LESSONS_SCREEN)
-                program.page.back()
-                self.quit(program)
-            grown = struct.pack("<hi", 3, value)
-            self.assertEqual(self.file.read_bytes(), self.new[: value_at - 2] + grown + self.new[value_at + 2 :])
+    def check_run_ends(self, program, way, *texts):
+        before = state(self.folder)
+        program.page.click(*way)
+        self.check_report(program, *texts)
+        self.check_desk_becomes(self.desk.IN_USE)
+        self.assertEqual(state(self.folder), before)
 
     def test_killed_at_any_call_of_the_save_the_file_is_whole(self):
-        # The window makes calls of the same names now and then; the quietest quit is the measure.
-        killed, calls = min((self.quit_traced() for _ in range(3)), key=lambda quit: sum(n for _, n in quit[1]))
+        self.saver = install(self.source.with_stem("save"), self.folder.with_name("save"))
+        self.file = self.saver.parent / "datas" / "18"
+        killed, calls = self.save_traced()
         self.assertFalse(killed)
+        self.assertEqual(self.file.read_bytes(), self.new)
         left = []
         for number, call in enumerate(calls):
             with self.subTest(call=call):
-                self.assertTrue(any(self.is_killed_at(number, call) for _ in range(12)))
+                self.assertEqual(self.save_traced(*call), (True, calls[: number + 1]))
                 left.append(self.file.read_bytes())
                 self.assertLessEqual(len(self.left_beside()), 1)
         self.assertEqual(left, sorted(left))
@@ -229,73 +187,33 @@ class Faults(Installed):
         names = [name for name, _ in calls]
         flush = names.index("fsync", names.index("write"))
         self.assertEqual(left[flush + 1], self.old)
-        with self.run_as_pupil() as program:
-            self.quit(program)
 
-    def is_killed_at(self, number, call):
-        killed, calls = self.quit_traced(*call)
-        return killed and len(calls) == number + 1
+    def save_traced(self, *last_call):
+        """Saves the counters, in a process that is killed before a call; tells whether it was, and its calls for it."""
+        for file in self.left_beside():
+            file.unlink()
+        self.file.write_bytes(self.old)
+        command, pipes = [*self.desk.starter, self.saver], dict.fromkeys(("stdin", "stdout"), subprocess.PIPE)
+        with subprocess.Popen(command, env=self.desk.environment(), **pipes) as process:
+            process.stdout.readline()
+            trace = Trace(process.pid, *last_call, paths=self.desk.paths(self.file))
+            process.stdin.close()
+        return trace.calls("datas")
 
     def left_beside(self):
         """Files with new content that a killed program could not take away."""
         return [*self.file.parent.glob("18?*")]
 
-    def quit_traced(self, *last_call):
-        """Quits a program that is killed before a call; tells whether it was, and its calls for the save."""
-        for file in self.left_beside():
-            file.unlink()
-        with self.run_as_pupil() as program:
-            self.file.write_bytes(self.old)
-            trace = Trace(program.process, self.traced_paths(), *last_call)
-            if not trace.attached:
-                self.skipTest("a process may not be traced here")
+    def test_killed_while_it_saves_the_program_leaves_the_old_counters(self):
+        with self.started() as program:
+            trace = Trace(program.process, "fsync", 1)
             program.page.click(at.QUIT)
-            program.wait()
-            return trace.calls(self.folder.parent.name)
-
-
-class LinuxFaults(Faults, unittest.TestCase):
-    program = LinuxProgram
-    separator = "/"
-    SAVE_FAILED = "Enregistrement impossible"
-
-    def check_desk_untouched(self, program):
-        pass
-
-    check_desk_left = check_desk_untouched
-
-    def traced_paths(self):
-        return []  # the new file's name is drawn
-
-
-class WindowsFaults(Faults, unittest.TestCase):
-    program = NextWindowsProgram
-    separator = "\\"
-    SAVE_FAILED = "Fichier impossible à écrire"
-
-    @classmethod
-    def setUpClass(cls):
-        super().setUpClass()
-        cls.enterClassContext(cls.program.desktop(cls.desk, under=AS_A_PUPIL))
-
-    def traced_paths(self):
-        drive = self.program.prefix / "dosdevices" / "z:"
-        return [root + str(self.file) + new for root in ("", str(drive)) for new in ("", ".nouveau")]
-
-    def check_desk_untouched(self, program):
-        self.assertEqual(len(self.desks(program)), 1, program.told)
-
-    def check_desk_left(self, program):
-        self.assertIn("640x480", self.desks(program)[-1])
-
-    def desks(self, program):
-        return [line for line in program.told if line.startswith("desk")]
-
-
-def main(*programs):
-    case = WindowsFaults if len(programs) > 1 else LinuxFaults
-    return case.run_all(*programs)
+            self.assertTrue(trace.calls("18")[0])
+        self.assertEqual(self.file.read_bytes(), self.old)
+        with self.started() as program:
+            self.quit(program)
+        self.assertEqual(self.file.read_bytes(), self.new)
 
 
 if __name__ == "__main__":
-    sys.exit(not main(*sys.argv[1:]))
+    sys.exit(main(Faults, *sys.argv[1:]))

@@ -1,4 +1,4 @@
-"""What every run of the real programs begins with: a folder with the program and its data."""
+"""What every test of the real program begins with: a desk, and a folder with the program and its data."""
 
 import contextlib
 import tempfile
@@ -6,29 +6,57 @@ import unittest
 from pathlib import Path
 
 import page as at
-from programs import WindowsProgram, install
+from desk import Desk
+from programs import Program, install
+from waiting import wait_until
+from wine import WineDesk
 
 
-class Installed:
-    """A test case's start; the classes beside it bring the desk and the platform's `program`."""
+def new_desk(*probe):
+    return WineDesk(*probe) if probe else Desk()
 
+
+class DeskTest(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.desk = cls.enterClassContext(new_desk(*cls.probe))
+
+
+class Installed(DeskTest):
     def setUp(self):
         self.folder = Path(self.enterContext(tempfile.TemporaryDirectory()), "Tables d'été à l'école")
         self.executable = install(self.source, self.folder)
         self.file = self.folder / "datas" / "18"
 
+    def program(self, **environment):
+        return Program(self.desk, self.executable, **environment)
+
     @contextlib.contextmanager
-    def started(self, **how):
-        with self.program(self.desk, self.executable, **how) as program:
-            program.page.wait_for(at.START)
+    def started(self, **environment):
+        with self.program(**environment) as program:
+            program.wait_until_started()
             yield program
 
-    @classmethod
-    def run_all(cls, program, *probe):
-        """Runs the tests of the class on a program; tells whether they hold."""
-        cls.source = Path(program).resolve()
-        with tempfile.TemporaryDirectory() as scratch:
-            if probe:
-                WindowsProgram.prepare(Path(scratch, "wine"), *probe)
-            tests = unittest.defaultTestLoader.loadTestsFromTestCase(cls)
-            return unittest.TextTestRunner(verbosity=2).run(tests).wasSuccessful()
+    def start(self, **environment):
+        return self.enterContext(self.started(**environment))
+
+    def quit(self, program):
+        program.page.click(at.QUIT)
+        self.assertEqual(program.wait(), 0)
+        self.check_desk_becomes(self.desk.AT_REST)
+
+    def check_desk_becomes(self, state):
+        self.assertTrue(wait_until(lambda: self.desk.states()[-1] == state), self.desk.states())
+
+    def check_report(self, program, *texts):
+        report = program.report()
+        for text in texts:
+            self.assertIn(text, report)
+        self.assertEqual(program.wait(), 1, report)
+
+
+def main(case, source, *probe):
+    """Runs the tests of a class on a program, or whatever it is made for."""
+    case.source, case.probe = Path(source).resolve(), probe
+    tests = unittest.defaultTestLoader.loadTestsFromTestCase(case)
+    return not unittest.TextTestRunner(verbosity=2).run(tests).wasSuccessful()

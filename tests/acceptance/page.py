@@ -13,15 +13,20 @@ PYTHAGORAS = (60, 170)
 LESSONS = (570, 200)
 EXERCISES = (400, 385)
 REPORT = (130, 300)
-QUIT = (590, 468)
-BACK = (590, 467)
+# RETOUR lies over SORTIE: so that one after the other is no double click, each is clicked at an end of its own.
+QUIT = (622, 468)
+BACK = (560, 467)
 
 FACTORING_MORE = (485, 57)
+FACTORING_LESS = (485, 72)
+FACTORING_BOX = (436, 54, 36, 22)
+FACTORING_TEXT = (246, 84, 376, 48)
 FACTORING_ANSWER = (454, 65)
 MULTIPLE_NO = (470, 220)
 MULTIPLE_AGAIN = (584, 244)
 PRODUCT_MORE = (476, 34)
 PRODUCT_ANSWER = (476, 64)
+NOTHING = (20, 20)
 
 
 def column(number):
@@ -32,47 +37,72 @@ def row(number):
     return (235 + 19 * number, 95)
 
 
-# The screens by the names of their background pictures.
+# The screens by the names of their background pictures; what each is called, and what opens it.
 SCREENS = "11", "12", "13", "14", "15", "16"
 LEARNING, REPORT_SCREEN, EXERCISES_SCREEN, LESSONS_SCREEN, START, PYTHAGORAS_SCREEN = SCREENS
+NAMES = dict(zip(SCREENS, ("apprendre", "bilan", "exercices", "lecon", "depart", "pythagore")))
+WAYS = {
+    LEARNING: TABLE_OF_7,
+    EXERCISES_SCREEN: EXERCISES,
+    PYTHAGORAS_SCREEN: PYTHAGORAS,
+    LESSONS_SCREEN: LESSONS,
+    REPORT_SCREEN: REPORT,
+}
+
+ROOT = Path(__file__).parents[2]
 
 
-class Backgrounds:
-    """Tells the screens apart by their background pictures."""
-
-    SIZE = (160, 120)
-    ALIKE = 16  # mean difference of a colour; texts and controls cover a part of every background
-
-    def __init__(self):
-        datas = Path(__file__).parents[2] / "datas"
-        self._pictures = {name: self._small(datas / name) for name in SCREENS}
-
-    def nearest(self, seen):
-        """The most similar background and the mean difference from it."""
-        return min(((self._difference(seen, picture), name) for name, picture in self._pictures.items()))[::-1]
-
-    def _small(self, file):
-        size = f"{self.SIZE[0]}x{self.SIZE[1]}!"
-        command = ["convert", str(file), "-resize", size, "-depth", "8", "rgb:-"]
-        return subprocess.run(command, check=True, capture_output=True).stdout
-
-    @staticmethod
-    def _difference(a, b):
-        return sum(abs(x - y) for x, y in zip(a, b, strict=True)) / len(a)
+def clickable(screen):
+    """The boxes (left, top, width, height) that react to a click, RETOUR and SORTIE left out; arrows are two."""
+    for line in (ROOT / "tests" / "design" / "places.txt").read_text().splitlines():
+        page, kind, *twips = line.split()
+        left, top, width, height = (int(number) // 15 for number in twips)
+        if page != NAMES[screen] or shared((left, top, width, height), (*BACK, 3, 3)):
+            continue
+        parts = 2 if kind == "arrows" else 1
+        for part in range(parts):
+            yield left, top + part * height // parts, width, height // parts
 
 
-backgrounds = functools.cache(Backgrounds)
+def middle(box):
+    left, top, width, height = box
+    return left + width // 2, top + height // 2
+
+
+def shared(one, other):
+    """The part that two boxes share, or nothing."""
+    left, top = max(one[0], other[0]), max(one[1], other[1])
+    width, height = min(one[0] + one[2], other[0] + other[2]) - left, min(one[1] + one[3], other[1] + other[3]) - top
+    return [(left, top, width, height)] if min(width, height) > 2 else []
+
+
+SMALL = (160, 120)
+ALIKE = 16  # mean difference of a colour; texts and controls cover a part of every background
+
+
+@functools.cache
+def background(screen):
+    command = ["convert", ROOT / "datas" / screen, "-resize", "{}x{}!".format(*SMALL), "-depth", "8", "rgb:-"]
+    return subprocess.run(command, check=True, capture_output=True).stdout
+
+
+def nearest(seen):
+    """The mean difference from the most similar background, and the screen that it belongs to."""
+    return min((sum(abs(x - y) for x, y in zip(seen, background(name))) / len(seen), name) for name in SCREENS)
 
 
 class Page:
     """The page as it lies on a desk: its top left corner, scaled."""
 
-    def __init__(self, desk, scale):
-        self._desk, self._scale = desk, scale
-        self.box = (0, 0, round(WIDTH * scale), round(HEIGHT * scale))
+    def __init__(self, desk, has_ended):
+        self._desk, self._has_ended = desk, has_ended
+        self.box = self._on_desk((0, 0, WIDTH, HEIGHT))
 
     def click(self, *places):
-        self._desk.click(*((round(x * self._scale), round(y * self._scale)) for x, y in places))
+        self._desk.click(*map(self._on_desk, places))
+
+    def double_click(self, *places):
+        self.click(*(place for place in places for _ in range(2)))
 
     def go(self, place, screen):
         self.click(place)
@@ -81,10 +111,17 @@ class Page:
     def back(self):
         self.go(BACK, START)
 
+    def look(self, box):
+        """What a part of the page looks like."""
+        return self._desk.look(self._on_desk(box), box[2:])
+
     def wait_for(self, screen):
         def shown():
-            self._nearest, difference = backgrounds().nearest(self._desk.look(self.box, Backgrounds.SIZE))
-            return self._nearest == screen and difference < Backgrounds.ALIKE
+            self._difference, self._nearest = nearest(self._desk.look(self.box, SMALL))
+            return self._nearest == screen and self._difference < ALIKE
 
-        if not wait_until(shown):
+        if not wait_until(lambda: shown() or self._has_ended()) or self._has_ended():
             raise AssertionError(f"screen {screen} is not shown, but rather {self._nearest}")
+
+    def _on_desk(self, numbers):
+        return tuple(round(number * self._desk.SCALE) for number in numbers)

@@ -1,53 +1,38 @@
-// Starts the program in the desktop that this runs in, and tells line by line what becomes of the taskbar and
-// of the desktop's size, what the program reports, and how it ends. A line on the standard input kills the
-// program.
+// Is the taskbar of the desktop that it runs in, and tells line by line what becomes of both, and what
+// programs report. A line on the standard input brings the desktop to rest; the input's end is the probe's.
 #include <windows.h>
 
 #include <cstdio>
 #include <iostream>
+#include <map>
 #include <string>
 #include <thread>
 
 namespace {
 
-struct Desk {
-    bool taskbar;
-    int width;
-    int height;
-
-    friend bool operator==(const Desk&, const Desk&) = default;
-};
-
-Desk Look() {
-    const HWND taskbar = FindWindowA("Shell_TrayWnd", nullptr);
-    return {taskbar && IsWindowVisible(taskbar), GetSystemMetrics(SM_CXSCREEN),
-            GetSystemMetrics(SM_CYSCREEN)};
-}
-
-// The desk as it was at one moment: a look that finds it changing is taken again.
-Desk LookSharply() {
-    Desk desk = Look();
-    for (Desk again = Look(); !(again == desk); again = Look()) desk = again;
-    return desk;
-}
+constexpr UINT kTidy = WM_APP;
+using Programs = std::map<DWORD, HANDLE>;
 
 void Tell(const std::string& line) {
     std::puts(line.c_str());
     std::fflush(stdout);
 }
 
-void TellChange(Desk& last) {
-    const Desk desk = LookSharply();
-    if (desk == last) return;
-    last = desk;
-    Tell("desk " + std::to_string(desk.width) + "x" + std::to_string(desk.height) +
-         (desk.taskbar ? " with taskbar" : " without taskbar"));
+HWND MakeTaskbar() {
+    constexpr const wchar_t* kClass = L"Shell_TrayWnd";
+    WNDCLASSW taskbar{};
+    taskbar.lpfnWndProc = DefWindowProcW;
+    taskbar.lpszClassName = kClass;
+    RegisterClassW(&taskbar);
+    const int top = GetSystemMetrics(SM_CYSCREEN) - 30;
+    return CreateWindowExW(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, kClass, L"", WS_POPUP, 0, top,
+                           GetSystemMetrics(SM_CXSCREEN), 30, nullptr, nullptr, nullptr, nullptr);
 }
 
-std::string Utf8(const wchar_t* text) {
-    char utf8[2048];
-    WideCharToMultiByte(CP_UTF8, 0, text, -1, utf8, sizeof utf8, nullptr, nullptr);
-    return utf8;
+std::string Desk(HWND taskbar) {
+    return "desk " + std::to_string(GetSystemMetrics(SM_CXSCREEN)) + "x" +
+           std::to_string(GetSystemMetrics(SM_CYSCREEN)) +
+           (IsWindowVisible(taskbar) ? " with taskbar" : " without taskbar");
 }
 
 // A message box shows its text in a static control.
@@ -55,48 +40,66 @@ BOOL CALLBACK TellText(HWND control, LPARAM) {
     wchar_t text[1024] = L"";
     wchar_t name[16] = L"";
     GetClassNameW(control, name, 16);
-    if (lstrcmpiW(name, L"Static") == 0 && GetWindowTextW(control, text, 1024) > 0)
-        Tell("report " + Utf8(text));
+    if (lstrcmpiW(name, L"Static") != 0 || GetWindowTextW(control, text, 1024) == 0) return TRUE;
+    char utf8[2048];
+    WideCharToMultiByte(CP_UTF8, 0, text, -1, utf8, sizeof utf8, nullptr, nullptr);
+    Tell(std::string("report ") + utf8);
     return TRUE;
 }
 
-BOOL CALLBACK PutMessageAway(HWND window, LPARAM process) {
-    DWORD owner = 0;
+// Notes the programs that have a window or a message box, and puts message boxes away.
+BOOL CALLBACK Note(HWND window, LPARAM running) {
     wchar_t name[16] = L"";
-    GetWindowThreadProcessId(window, &owner);
     GetClassNameW(window, name, 16);
-    if (owner == static_cast<DWORD>(process) && lstrcmpW(name, L"#32770") == 0 && IsWindowVisible(window)) {
+    const bool message = lstrcmpW(name, L"#32770") == 0;
+    if (!IsWindowVisible(window) || (!message && lstrcmpW(name, L"OnzeTables") != 0)) return TRUE;
+    DWORD id = 0;
+    GetWindowThreadProcessId(window, &id);
+    HANDLE& program = (*reinterpret_cast<Programs*>(running))[id];
+    if (!program) {
+        program = OpenProcess(SYNCHRONIZE | PROCESS_QUERY_INFORMATION, FALSE, id);
+        Tell("running " + std::to_string(id));
+    }
+    if (message) {
         EnumChildWindows(window, TellText, 0);
         SendMessageW(window, WM_COMMAND, IDOK, 0);
     }
     return TRUE;
 }
 
+bool TellEnd(const Programs::value_type& running) {
+    const auto& [id, program] = running;
+    DWORD status = 0;
+    if (WaitForSingleObject(program, 0) != WAIT_OBJECT_0) return false;
+    GetExitCodeProcess(program, &status);
+    CloseHandle(program);
+    Tell("exit " + std::to_string(id) + " " + std::to_string(status));
+    return true;
+}
+
+void ListenTo(DWORD main_thread) {
+    for (std::string line; std::getline(std::cin, line);) PostThreadMessageW(main_thread, kTidy, 0, 0);
+    std::_Exit(0);
+}
+
 }  // namespace
 
 int main() {
-    Desk desk{};
-    while (!Look().taskbar) Sleep(10);
-    TellChange(desk);
-
-    STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION program{};
-    wchar_t command[] = L"onze-tables.exe";
-    if (!CreateProcessW(nullptr, command, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &program))
-        return 1;
-    std::thread([&program] {
-        if (std::string line; std::getline(std::cin, line)) TerminateProcess(program.hProcess, 99);
-    }).detach();
-
-    while (WaitForSingleObject(program.hProcess, 1) == WAIT_TIMEOUT) {
-        TellChange(desk);
-        EnumWindows(PutMessageAway, static_cast<LPARAM>(program.dwProcessId));
+    const HWND taskbar = MakeTaskbar();
+    std::thread(ListenTo, GetCurrentThreadId()).detach();
+    Programs running;
+    for (std::string told;;) {
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_ALLINPUT);
+        for (MSG message; PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);) {
+            DispatchMessageW(&message);
+            if (message.message != kTidy) continue;
+            ChangeDisplaySettingsW(nullptr, 0);
+            ShowWindow(taskbar, SW_SHOWNA);
+            Tell("tidy");
+            told.clear();
+        }
+        if (const std::string desk = Desk(taskbar); desk != told) Tell(told = desk);
+        EnumWindows(Note, reinterpret_cast<LPARAM>(&running));
+        std::erase_if(running, TellEnd);
     }
-    Sleep(300);
-    TellChange(desk);
-    DWORD status = 0;
-    GetExitCodeProcess(program.hProcess, &status);
-    Tell("exit " + std::to_string(status));
-    std::_Exit(0);
 }

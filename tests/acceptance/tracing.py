@@ -1,23 +1,25 @@
-"""The system calls of a running process: listed, or one of them made its last."""
+"""The system calls of a process: listed, or one of them made its last."""
 
 import collections
 import subprocess
 import tempfile
+import unittest
 from pathlib import Path
 
 
 class Trace:
-    """Follows a process, in its calls on these paths or in all of them, to its end: that of before the call told,
-    the n-th of its name, or its own."""
+    """Follows a process from now on, in its calls on these paths or in all of them, to its end: that of before the call
+    told, the n-th of its name, or its own."""
 
-    def __init__(self, process, paths, *last_call):
+    def __init__(self, process, *last_call, paths=()):
         self._scratch = tempfile.TemporaryDirectory()
         self._log = Path(self._scratch.name, "calls")
         kill = ["--inject={}:signal=KILL:when={}".format(*last_call)] if last_call else []
         only = [f"--trace-path={path}" for path in paths]
         command = ["strace", "-y", "-o", self._log, *only, *kill, "-p", str(process)]
         self._strace = subprocess.Popen(command, stderr=subprocess.PIPE, text=True)
-        self.attached = any("attached" in line for line in iter(self._strace.stderr.readline, ""))
+        if not any("attached" in line for line in iter(self._strace.stderr.readline, "")):
+            raise unittest.SkipTest("a process may not be traced here")
 
     def calls(self, word):
         """Whether it was killed, and the calls that held a word, each as its name and how many of that name there
@@ -32,4 +34,4 @@ class Trace:
             numbers[name] += 1
             if word in line:
                 found.append((name, numbers[name]))
-        return "killed" in lines[-1], found
+        return "SIGKILL" in lines[-1], found

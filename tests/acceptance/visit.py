@@ -2,46 +2,33 @@
 
 import sys
 import tempfile
-import time
 from pathlib import Path
 
 import page as at
-from desk import Desk
-from programs import LinuxProgram, WindowsProgram, install
-
-STOPS = {
-    "apprendre": (at.TABLE_OF_7, at.LEARNING),
-    "exercices": (at.EXERCISES, at.EXERCISES_SCREEN),
-    "pythagore": (at.PYTHAGORAS, at.PYTHAGORAS_SCREEN),
-    "lecon": (at.LESSONS, at.LESSONS_SCREEN),
-    "bilan": (at.REPORT, at.REPORT_SCREEN),
-}
+from installed import new_desk
+from programs import Program, install
 
 
-def visit(desk, program, folder):
-    def keep(name):
-        time.sleep(0.3)  # everything on the screen is painted
-        desk.keep_picture(program.page.box, folder / f"{name}.png")
+def visit(desk, page, folder):
+    def keep(screen):
+        desk.keep_picture(page.box, folder / f"{at.NAMES[screen]}.png")
 
-    program.page.wait_for(at.START)
-    keep("depart")
-    for name, (place, screen) in STOPS.items():
-        program.page.go(place, screen)
-        keep(name)
-        program.page.back()
-    program.page.click(at.QUIT)
-    program.wait()
+    page.wait_for(at.START)
+    keep(at.START)
+    for screen, place in at.WAYS.items():
+        page.go(place, screen)
+        keep(screen)
+        page.back()
+    page.click(at.QUIT)
 
 
 def main(source, folder, *probe):
     source, folder = Path(source), Path(folder)
     folder.mkdir(parents=True, exist_ok=True)
-    with Desk() as desk, tempfile.TemporaryDirectory() as scratch:
-        if probe:
-            WindowsProgram.prepare(Path(scratch, "wine"), *probe)
-        kind = WindowsProgram if probe else LinuxProgram
-        with kind(desk, install(source, Path(scratch, "Onze Tables"))) as program:
-            visit(desk, program, folder)
+    with new_desk(*probe) as desk, tempfile.TemporaryDirectory() as scratch:
+        with Program(desk, install(source, Path(scratch, "Onze Tables"))) as program:
+            visit(desk, program.page, folder)
+            program.wait()
     print(f"Pictures of all screens: {folder}/*.png")
 
 

@@ -1,15 +1,15 @@
-"""Waiting for what takes a second or two, and much longer on a busy machine."""
+"""Waiting for something to become true, however slow the machine is."""
 
 import time
 
-PATIENCE = 120  # seconds
+PATIENCE = 900  # seconds: whatever takes longer will never come
 
 
-def wait_until(true, seconds=PATIENCE):
+def wait_until(true):
     """Waits until something is true, and tells whether it became so."""
-    end = time.monotonic() + seconds
+    end = time.monotonic() + PATIENCE
     while not true():
         if time.monotonic() > end:
             return False
-        time.sleep(0.1)
+        time.sleep(0.05)
     return True

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <fstream>
 #include <map>
 #include <set>
 #include <sstream>
@@ -15,6 +14,7 @@
 #include "platform/qt/painter_canvas.h"
 #include "platform/qt/qt_platform.h"
 #include "shell/program.h"
+#include "support/headless_platform.h"
 #include "support/monkey.h"
 
 namespace {
@@ -104,29 +104,39 @@ class LegibilityCanvas final : public Canvas {
     PainterCanvas canvas_;
 };
 
-// A copy of the data folder whose counters all have five digits.
-std::filesystem::path FolderWithLargeCounters() {
-    const auto folder = std::filesystem::temp_directory_path() / "onze tables lisibilité";
-    std::filesystem::remove_all(folder);
-    std::filesystem::create_directories(folder);
-    std::filesystem::copy(DATAS_DIR, folder / "datas");
-    UsageRecord record;
-    auto& counters = record.counters;
-    for (auto* table : {&counters.TableConsultations, &counters.TableExercises, &counters.TableRight,
-                        &counters.TableWrong}) {
-        table->fill(20888);
+// Reads pictures and measures texts as the program does; all counters in its folder have five digits.
+class RealLooks final : public HeadlessPlatform {
+  public:
+    RealLooks() {
+        std::filesystem::remove_all(folder / "datas");
+        std::filesystem::copy(DATAS_DIR, folder / "datas");
+        UsageRecord record;
+        auto& counters = record.counters;
+        for (auto* table : {&counters.TableConsultations, &counters.TableExercises, &counters.TableRight,
+                            &counters.TableWrong}) {
+            table->fill(20888);
+        }
+        counters.PuzzleCount = counters.PuzzleRight = counters.PuzzleWrong = 20888;
+        counters.LessonConsultations = counters.PythagoreSolves = TaggedNumber::Integer(20888);
+        HeadlessPlatform::ReplaceContent(folder / "datas" / "18", ToBytes(record));
     }
-    counters.PuzzleCount = counters.PuzzleRight = counters.PuzzleWrong = 20888;
-    counters.LessonConsultations = counters.PythagoreSolves = TaggedNumber::Integer(20888);
-    std::ofstream stream(folder / "datas" / "18", std::ios::binary);
-    for (const std::byte byte : ToBytes(record)) stream.put(static_cast<char>(byte));
-    return folder;
-}
+
+    PicturePtr LoadPicture(const std::filesystem::path& file) override { return qt_.LoadPicture(file); }
+    PicturePtr LoadPicture(std::span<const std::byte> bytes) override { return qt_.LoadPicture(bytes); }
+    PicturePtr ClipPicture(const PicturePtr& picture, int x, int y, int width, int height) override {
+        return qt_.ClipPicture(picture, x, y, width, height);
+    }
+    Size MeasureText(std::string_view line, const Font& font) override { return fonts().Measure(line, font); }
+    PageFonts& fonts() { return qt_.fonts(); }
+
+  private:
+    QtPlatform qt_{{}};
+};
 
 // A child who does anything, and someone who looks at the page each time.
 class Reader {
   public:
-    Reader() : platform_(FolderWithLargeCounters()), program_(platform_, random_) { program_.Load(); }
+    Reader() : program_(platform_, random_) { program_.Load(); }
 
     void ActAndLook() {
         monkey_.Act(program_.stage());
@@ -152,10 +162,13 @@ class Reader {
     Screens& screens() { return program_.screens(); }
 
   private:
-    QtPlatform platform_;
+    RealLooks platform_;
     SeededRandom random_{7};
     Program program_;
-    Monkey monkey_{7, [](Stage& stage, int) { stage.RunDue(); }};
+    Monkey monkey_{7, [this](Stage& stage, int time) {
+                       platform_.now += time;
+                       stage.RunDue();
+                   }};
     std::set<const Control*> seen_;
     std::set<std::string> faults_;
     Checks checks_;

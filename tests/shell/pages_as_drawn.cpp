@@ -89,4 +89,26 @@ TEST(Design, Tables) {
     ExpectAsDrawn("tables", canvas);
 }
 
+// All that reacts to a click, for those who click on the real programs.
+TEST(Design, Places) {
+    Pupil pupil;
+    const Screens& screens = pupil.screens;
+    WritingCanvas canvas;
+    for (const auto& [name, page] : {std::pair{"depart ", &screens.depart.form},
+                                     {"apprendre ", &screens.apprendre.form},
+                                     {"lecon ", &screens.leçon.form},
+                                     {"pythagore ", &screens.pythagore.form},
+                                     {"exercices ", &screens.exercices.form},
+                                     {"bilan ", &screens.bilan.form}}) {
+        for (const Control* control : page->controls()) {
+            const bool arrows = dynamic_cast<const UpDown*>(control);
+            if (!arrows && !control->on_click) continue;
+            const auto& [left, top, width, height] = control->box();
+            canvas.out << name << (arrows ? "arrows " : "click ") << left << ' ' << top << ' ' << width << ' '
+                       << height << '\n';
+        }
+    }
+    ExpectAsDrawn("places", canvas);
+}
+
 }  // namespace
