@@ -2,12 +2,12 @@
 file(READ ${INPUT} hex HEX)
 string(REGEX REPLACE "([0-9a-f][0-9a-f])" "0x\\1," bytes "${hex}")
 string(REGEX REPLACE "(................................................................................)" "\\1\n" bytes "${bytes}")
-file(WRITE ${OUTPUT} "#include \"shell/anim.h\"
+file(WRITE ${OUTPUT} "#include \"services/anim.h\"
 
 namespace {
 constexpr unsigned char kBytes[] = {
 ${bytes}};
 }  // namespace
 
-const std::span<const std::byte> kAnim = std::as_bytes(std::span(kBytes));
+const std::span<const std::byte> onze::kAnim = std::as_bytes(std::span(kBytes));
 ")

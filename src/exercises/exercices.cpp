@@ -1,5 +1,9 @@
 #include "exercises/exercices.h"
 
+#include "exercises/looks.h"
+
+namespace onze {
+
 namespace {
 
 constexpr Color kRule{120, 150, 205};
@@ -16,19 +20,20 @@ LabelStyle ReturnButton() {
 // The rules: below the two areas at the top, below the band of the third exercise, below that of the first;
 // between left and right at the top and at the bottom; above "RETOUR".
 Exercices::Exercices(Stage& stage, SharedState& shared, Form& depart)
-    : form(stage),
+    : tally_(shared.counters),
+      form(stage),
       Line1(form, {180, 2340}, {9420, 2340}, 1_px, kRule),
       Line2(form, {180, 3780}, {9420, 3780}, 1_px, kRule),
       Line3(form, {180, 5010}, {9420, 5010}, 1_px, kRule),
       Line4(form, {4800, 180}, {4800, 2265}, 1_px, kRule),
       Line5(form, {4800, 5085}, {4800, 7020}, 1_px, kRule),
       Line8(form, {4875, 6765}, {9420, 6765}, 1_px, kRule),
-      membership(form, shared),
-      product(form, shared),
-      factor_pair(form, shared),
-      missing_factor(form, shared),
-      factored_sum(form, shared),
-      note_factor(form, shared),
+      membership(form, shared, tally_),
+      product(form, shared, tally_),
+      factor_pair(form, shared, tally_),
+      missing_factor(form, shared, tally_),
+      factored_sum(form, shared, tally_),
+      note_factor(form, shared, tally_),
       fin(form, {8280, 6870, 1155, 285}, "RETOUR", ReturnButton()),
       random_(shared.random) {
     form.on_activate = [this] { Form_Activate(); };
@@ -44,3 +49,5 @@ void Exercices::Form_Activate() {
     factored_sum.NewFactoredSumExercise();
     note_factor.NewNoteFactorExercise();
 }
+
+}  // namespace onze

@@ -8,8 +8,12 @@
 #include "exercises/product.h"
 #include "forms/form.h"
 
+namespace onze {
+
 // The exercises screen: six exercises on all tables, in any order, each in an area of its own.
 class Exercices {
+    PuzzleTally tally_;
+
   public:
     Exercices(Stage& stage, SharedState& shared, Form& depart);
 
@@ -28,3 +32,5 @@ class Exercices {
 
     Random& random_;
 };
+
+}  // namespace onze

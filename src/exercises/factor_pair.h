@@ -2,7 +2,11 @@
 
 #include <string>
 
-#include "exercises/exercise_panel.h"
+#include "exercises/looks.h"
+#include "exercises/texts.h"
+#include "stats/exercise.h"
+
+namespace onze {
 
 // A product of two different tables: any of its divisors within the tables is asked, then the other factor.
 struct FactorPairQuestion {
@@ -12,17 +16,20 @@ struct FactorPairQuestion {
     static FactorPairQuestion Draw(Random& random);
     int PairProduct() const { return PairFirst * PairSecond; }
     bool IsDivisor(int factor) const { return PairProduct() % factor == 0; }
+    bool IsRight(int divisor, int factor) const { return divisor * factor == PairProduct(); }
+
     std::string Text() const;
     // The equation that a divisor begins.
-    std::string Begun(int divisor) const;
-    std::string NoDivisor() const;
+    std::string EquationFrom(int divisor) const;
+    // After a number that is no divisor, and after the other factor of one that is.
+    std::string TableCorrection() const;
     std::string Correction(bool right, int divisor) const;
 };
 
 // The third exercise, across the screen.
-class FactorPairPanel : private ExercisePanel {
+class FactorPairPanel {
   public:
-    FactorPairPanel(Form& form, SharedState& shared);
+    FactorPairPanel(Form& form, SharedState& shared, Tally& tally);
 
     void NewFactorPairExercise();
 
@@ -32,12 +39,14 @@ class FactorPairPanel : private ExercisePanel {
         Form& form;
         //                   left  top   width height
         Label enonce3     { form, {  300, 2865,    0, 195 }, "dgdg",      AutoSized(kExerciseLine, AutoSize::kKeepLeft) };
-        Label chiffre4    { form, { 5595, 2865,  240, 195 }, kUnanswered, Answer({2_px, 3_px}) };
-        Label chiffre5    { form, { 1500, 2865,  240, 195 }, kUnanswered, Answer({2_px, 3_px}) };
+        Label chiffre4    { form, { 5595, 2865,  240, 195 }, kUnanswered, ExerciseAnswer({2_px, 3_px}) };
+        Label chiffre5    { form, { 1500, 2865,  240, 195 }, kUnanswered, ExerciseAnswer({2_px, 3_px}) };
         Label texte2      { form, {  300, 3135, 5220, 600 }, "",          kExerciseMessage };
         Label encor_trois { form, { 5595, 3450,  990, 240 }, "Continuer", kExerciseButton };
         UpDown flech3     { form, ArrowOver(chiffre4),       { 3, 12 },   chiffre4 };
         UpDown flech4     { form, ArrowOver(chiffre5),       { 0, 100 },  chiffre5 };
+        Answer first      { chiffre4, flech3, Str, kUnanswered };
+        Answer second     { chiffre5, flech4, Str, kUnanswered };
     } ui;
     // clang-format on
 
@@ -46,5 +55,9 @@ class FactorPairPanel : private ExercisePanel {
     void chiffre5_Click();
     void AskForSecondFactor();
 
+    Exercise exercise_;
+    SharedState& shared_;
     FactorPairQuestion question_{};
 };
+
+}  // namespace onze

@@ -4,6 +4,8 @@
 
 #include "support/number_text.h"
 
+namespace onze {
+
 FactoredSumQuestion FactoredSumQuestion::Draw(Random& random) {
     random.Randomize();
     const bool sum = random.Draw(2) == 0;
@@ -28,33 +30,34 @@ std::string FactoredSumQuestion::Correction(bool right) const {
     return "Erreur ! " + Text() + Str(Cofactor()) + " =" + Str(FactoredResult()) + " !" + kContinueLine;
 }
 
-FactoredSumPanel::FactoredSumPanel(Form& form, SharedState& shared) : ExercisePanel(shared), ui{form} {
-    Link(ui.flech6, ui.chiffre7);
-    Link(ui.flech7, ui.chiffre8);
+FactoredSumPanel::FactoredSumPanel(Form& form, SharedState& shared, Tally& tally)
+    : ui{form},
+      exercise_(shared.sounds, tally, ui.texte4, ui.encor_cinq, {&ui.cofactor, &ui.result}),
+      shared_(shared) {
     ui.chiffre7.on_click = [this] { chiffre7_Click(); };
     ui.chiffre8.on_click = [this] { chiffre8_Click(); };
     ui.encor_cinq.on_click = [this] { NewFactoredSumExercise(); };
 }
 
 void FactoredSumPanel::NewFactoredSumExercise() {
-    const SilentArrows silent(sounds());
-    random().Randomize();
+    const SilentArrows silent(shared_.sounds);
+    shared_.random.Randomize();
     ui.enonce6.SetCaption(" =");
-    Ask(ui.flech7, ui.chiffre8);
-    Ask(ui.flech6, ui.chiffre7);
+    ui.result.Begin();
+    ui.cofactor.Begin();
     ui.encor_cinq.Hide();
     ui.texte4.SetCaption(kEnterAnswers);
-    question_ = FactoredSumQuestion::Draw(random());
+    question_ = FactoredSumQuestion::Draw(shared_.random);
     ui.flech7.SetIncrement(question_.FactoredFactor);
     ui.enonce5.SetCaption(question_.Text());
 }
 
 void FactoredSumPanel::chiffre7_Click() {
-    if (!AnswerGuard(ui.chiffre7, ui.encor_cinq) || !AnswerGuard(ui.chiffre8, ui.encor_cinq)) return;
-    SetAllVisible(false, {&ui.flech6, &ui.flech7});
-    ui.encor_cinq.Show();
-    const bool right = Val(ui.chiffre7.caption()) == question_.Cofactor() &&
-                       Val(ui.chiffre8.caption()) == question_.FactoredResult();
-    Tell(right, ui.texte4, question_.Correction(right));
-    CountExercise();
+    using enum Step;
+    if (!exercise_.AnswerGuard({&ui.cofactor, &ui.result})) return;
+    const bool right = question_.IsRight(*ui.cofactor.entered(), *ui.result.entered());
+    exercise_.Correct(right, question_.Correction(right),
+                      {kClose, kOffer, kCountVerdict, kPlay, kTell, kCountExercise});
 }
+
+}  // namespace onze

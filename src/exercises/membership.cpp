@@ -2,6 +2,8 @@
 
 #include "support/number_text.h"
 
+namespace onze {
+
 MembershipQuestion MembershipQuestion::Draw(Random& random) {
     random.Randomize();
     const int first = random.Draw(12) + 1;
@@ -41,8 +43,8 @@ std::string MembershipQuestion::Correction(bool right) const {
     return "Faux !" + BeforeFactor() + Str(Factor()) + BehindFactor() + " !" + kContinueLine;
 }
 
-MembershipPanel::MembershipPanel(Form& form, SharedState& shared) : ExercisePanel(shared), ui{form} {
-    Link(ui.flech1, ui.chiffre2);
+MembershipPanel::MembershipPanel(Form& form, SharedState& shared, Tally& tally)
+    : ui{form}, exercise_(shared.sounds, tally, ui.enonce1, ui.encor_un, {&ui.factor}), shared_(shared) {
     ui.oui.on_click = [this] { oui_Click(); };
     ui.non.on_click = [this] { non_Click(); };
     ui.chiffre2.on_click = [this] { chiffre2_Click(); };
@@ -50,52 +52,51 @@ MembershipPanel::MembershipPanel(Form& form, SharedState& shared) : ExercisePane
 }
 
 void MembershipPanel::NewMembershipExercise() {
-    const SilentArrows silent(sounds());
-    ui.flech1.SetValue(0);
-    SetAllVisible(false, {&ui.lab, &ui.lab2, &ui.chiffre2, &ui.encor_un, &ui.flech1});
+    const SilentArrows silent(shared_.sounds);
+    ui.factor.Rewind();
+    ui.factor.Close();
+    SetAllVisible(false, {&ui.lab, &ui.lab2, &ui.chiffre2, &ui.encor_un});
     SetAllVisible(true, {&ui.oui, &ui.non});
-    question_ = MembershipQuestion::Draw(random());
+    question_ = MembershipQuestion::Draw(shared_.random);
     ui.chiffre1.SetCaption(Str(question_.number));
     ui.probleme1.SetCaption(question_.Text());
     ui.enonce1.SetCaption("Cliquez sur OUI ou NON pour répondre.");
-    shared().MembershipAnswer = question_.IsMember() ? 1 : 0;
+    shared_.MembershipAnswer = question_.IsMember() ? 1 : 0;
 }
 
 void MembershipPanel::oui_Click() {
+    using enum Step;
     SetAllVisible(false, {&ui.oui, &ui.non});
-    if (shared().MembershipAnswer == 1) {
+    if (shared_.MembershipAnswer == 1) {
         AskForFactor();
-        return;
+    } else {
+        exercise_.Correct(false, question_.AfterOui(), {kCountVerdict, kPlay, kTell, kOffer, kCountExercise});
     }
-    Tell(false, ui.enonce1, question_.AfterOui());
-    ui.encor_un.Show();
-    CountExercise();
 }
 
 void MembershipPanel::AskForFactor() {
-    sounds().PlayVictorySound();
+    shared_.sounds.PlayVictorySound();
     ui.enonce1.SetCaption(question_.AfterOui());
     ui.lab.SetCaption(question_.BeforeFactor());
     ui.lab2.SetCaption(question_.BehindFactor());
-    ui.chiffre2.SetCaption(kUnanswered);
-    SetAllVisible(true, {&ui.lab, &ui.lab2, &ui.chiffre2, &ui.flech1});
+    ui.factor.Begin();
+    SetAllVisible(true, {&ui.lab, &ui.lab2, &ui.chiffre2});
 }
 
 void MembershipPanel::non_Click() {
-    CountExercise();
+    using enum Step;
+    exercise_.CountExercise();
     SetAllVisible(false, {&ui.oui, &ui.non});
-    ui.encor_un.Show();
-    const bool right = shared().MembershipAnswer == 0;
-    sounds().PlayVerdictSound(right);
-    ui.enonce1.SetCaption(question_.AfterNon());
-    Count(right);
+    exercise_.Correct(shared_.MembershipAnswer == 0, question_.AfterNon(),
+                      {kOffer, kPlay, kTell, kCountVerdict});
 }
 
 void MembershipPanel::chiffre2_Click() {
-    if (!AnswerGuard(ui.chiffre2, ui.encor_un)) return;
-    ui.flech1.Hide();
-    const bool right = Val(ui.lab.caption()) == question_.MembershipTable * Val(ui.chiffre2.caption());
-    Tell(right, ui.enonce1, question_.Correction(right));
-    ui.encor_un.Show();
-    CountExercise();
+    using enum Step;
+    if (!exercise_.AnswerGuard({&ui.factor})) return;
+    const bool right = question_.IsRight(*ui.factor.entered());
+    exercise_.Correct(right, question_.Correction(right),
+                      {kClose, kCountVerdict, kPlay, kTell, kOffer, kCountExercise});
 }
+
+}  // namespace onze

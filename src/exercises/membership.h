@@ -2,7 +2,11 @@
 
 #include <string>
 
-#include "exercises/exercise_panel.h"
+#include "exercises/looks.h"
+#include "exercises/texts.h"
+#include "stats/exercise.h"
+
+namespace onze {
 
 // Whether a number is a result of a table and, when it is, by which factor.
 struct MembershipQuestion {
@@ -12,6 +16,7 @@ struct MembershipQuestion {
     static MembershipQuestion Draw(Random& random);
     bool IsMember() const { return number % MembershipTable == 0; }
     int Factor() const { return number / MembershipTable; }
+    bool IsRight(int factor) const { return number == MembershipTable * factor; }
 
     std::string Text() const;
     std::string AfterOui() const;
@@ -26,9 +31,9 @@ struct MembershipQuestion {
 };
 
 // The first exercise, below the third.
-class MembershipPanel : private ExercisePanel {
+class MembershipPanel {
   public:
-    MembershipPanel(Form& form, SharedState& shared);
+    MembershipPanel(Form& form, SharedState& shared, Tally& tally);
 
     void NewMembershipExercise();
 
@@ -42,11 +47,12 @@ class MembershipPanel : private ExercisePanel {
         Label oui       { form, { 2940, 4515,  675, 255 }, "OUI",        kExerciseButton };
         Label non       { form, { 3870, 4515,  675, 255 }, "NON",        kExerciseButton };
         Label lab       { form, { 3645, 4545,  120, 195 }, "",           AutoSized(kExerciseLine, AutoSize::kKeepRight) };
-        Label chiffre2  { form, { 3765, 4545,  240, 195 }, kUnanswered,  Answer({0, 3_px, 3_px, 3_px}) };
+        Label chiffre2  { form, { 3765, 4545,  240, 195 }, kUnanswered,  ExerciseAnswer({0, 3_px, 3_px, 3_px}) };
         Label lab2      { form, { 4050, 4545,  600, 195 }, "",           kExerciseLine };
         Label enonce1   { form, { 4890, 3885, 4530, 600 }, "Cliquez sur OUI ou NON pour répondre", kExerciseMessage };
         Label encor_un  { form, { 4890, 4665,  990, 240 }, "Continuer",  kExerciseButton };
         UpDown flech1   { form, ArrowOver(chiffre2),       { 0, 200 },   chiffre2 };
+        Answer factor   { chiffre2, flech1, Str, kUnanswered };
     } ui;
     // clang-format on
 
@@ -56,5 +62,9 @@ class MembershipPanel : private ExercisePanel {
     void chiffre2_Click();
     void AskForFactor();
 
+    Exercise exercise_;
+    SharedState& shared_;
     MembershipQuestion question_{};
 };
+
+}  // namespace onze

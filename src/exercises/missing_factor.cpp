@@ -2,6 +2,8 @@
 
 #include "support/number_text.h"
 
+namespace onze {
+
 MissingFactorQuestion MissingFactorQuestion::Draw(Random& random) {
     const int missing = random.Draw(10) + 2;
     const int second = random.Draw(10) + 2;
@@ -17,33 +19,32 @@ std::string MissingFactorQuestion::Correction(bool right) const {
     return "Erreur !" + Str(MissingFactor) + " " + Text() + " !" + kContinueLine;
 }
 
-MissingFactorPanel::MissingFactorPanel(Form& form, SharedState& shared) : ExercisePanel(shared), ui{form} {
-    Link(ui.flech5, ui.chiffre6);
+MissingFactorPanel::MissingFactorPanel(Form& form, SharedState& shared, Tally& tally)
+    : ui{form}, exercise_(shared.sounds, tally, ui.texte3, ui.encor_quatre, {&ui.factor}), shared_(shared) {
     ui.chiffre6.on_click = [this] { chiffre6_Click(); };
     ui.encor_quatre.on_click = [this] { NewMissingFactorExercise(); };
 }
 
 void MissingFactorPanel::NewMissingFactorExercise() {
-    const SilentArrows silent(sounds());
-    Ask(ui.flech5, ui.chiffre6);
+    const SilentArrows silent(shared_.sounds);
+    ui.factor.Begin();
     ui.encor_quatre.Hide();
     ui.texte3.SetCaption(kEnterAnswerOnTwoLines);
-    question_ = MissingFactorQuestion::Draw(random());
+    question_ = MissingFactorQuestion::Draw(shared_.random);
     ui.enonce4.SetCaption(question_.Text());
 }
 
 // A right answer is counted after its message, a wrong one before its sound.
 void MissingFactorPanel::chiffre6_Click() {
-    if (!AnswerGuard(ui.chiffre6, ui.encor_quatre)) return;
-    const bool right = Val(ui.chiffre6.caption()) == question_.MissingFactor;
+    using enum Step;
+    if (!exercise_.AnswerGuard({&ui.factor})) return;
+    const bool right = question_.IsRight(*ui.factor.entered());
+    const std::string text = question_.Correction(right);
     if (right) {
-        sounds().PlayVictorySound();
-        ui.texte3.SetCaption(question_.Correction(right));
-        Count(right);
+        exercise_.Correct(right, text, {kPlay, kTell, kCountVerdict, kCountExercise, kOffer, kClose});
     } else {
-        Tell(right, ui.texte3, question_.Correction(right));
+        exercise_.Correct(right, text, {kCountVerdict, kPlay, kTell, kCountExercise, kOffer, kClose});
     }
-    CountExercise();
-    ui.encor_quatre.Show();
-    ui.flech5.Hide();
 }
+
+}  // namespace onze

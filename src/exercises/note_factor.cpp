@@ -4,6 +4,8 @@
 
 #include "support/number_text.h"
 
+namespace onze {
+
 NoteFactorQuestion NoteFactorQuestion::Draw(Random& random) {
     const int factor = random.Draw(7) + kFirstNote;
     const int second = random.Draw(12) + 1;
@@ -24,43 +26,35 @@ std::string NoteFactorQuestion::Explanation(const std::string& note) const {
            Text() + kContinueLine;
 }
 
-NoteFactorPanel::NoteFactorPanel(Form& form, SharedState& shared) : ExercisePanel(shared), ui{form} {
-    ui.flech8.on_change = [this] { flech8_Change(); };
+NoteFactorPanel::NoteFactorPanel(Form& form, SharedState& shared, Tally& tally)
+    : ui{form}, exercise_(shared.sounds, tally, ui.texte5, ui.encor_six, {&ui.note}), shared_(shared) {
     ui.chiffre9.on_click = [this] { chiffre9_Click(); };
     ui.encor_six.on_click = [this] { NewNoteFactorExercise(); };
 }
 
 void NoteFactorPanel::NewNoteFactorExercise() {
-    const SilentArrows silent(sounds());
+    const SilentArrows silent(shared_.sounds);
     ui.texte5.SetCaption(
         "Sachant que DO=3, RE=4 ... LA=8, SI=9, entrez votre réponse grâce aux flèches puis cliquez sur "
         "cette réponse pour la correction.");
-    Ask(ui.flech8, ui.chiffre9);
-    ui.chiffre9.SetCaption(NoteFactorQuestion::NoteOf(NoteFactorQuestion::kFirstNote));
+    ui.note.Begin();
     ui.encor_six.Hide();
-    question_ = NoteFactorQuestion::Draw(random());
+    question_ = NoteFactorQuestion::Draw(shared_.random);
     ui.enonce7.SetCaption(question_.Text());
 }
 
-void NoteFactorPanel::flech8_Change() {
-    sounds().PlayClickSound();
-    ui.chiffre9.SetCaption(NoteFactorQuestion::NoteOf(ui.flech8.value() + NoteFactorQuestion::kFirstNote));
+// The note first shown is an answer, too. A right answer is counted after its sound, a wrong one before.
+void NoteFactorPanel::chiffre9_Click() {
+    using enum Step;
+    if (!exercise_.AnswerGuard({&ui.note})) return;
+    if (question_.IsRight(*ui.note.entered())) {
+        exercise_.Correct(true, "Bravo ! ", {kClose, kOffer, kTell, kPlay, kCountVerdict});
+    } else {
+        exercise_.Correct(false, "Erreur ! ", {kClose, kOffer, kCountVerdict, kPlay, kTell});
+    }
+    shared_.NoteName = NoteFactorQuestion::NoteOf(question_.NoteFactor);
+    ui.texte5.SetCaption(ui.texte5.caption() + question_.Explanation(shared_.NoteName));
+    exercise_.CountExercise();
 }
 
-// The note first shown is an answer too, so only "Continuer" guards this click. A right answer is
-// counted last, a wrong one first.
-void NoteFactorPanel::chiffre9_Click() {
-    if (ui.encor_six.visible()) return;
-    ui.flech8.Hide();
-    ui.encor_six.Show();
-    if (ui.flech8.value() == question_.NoteFactor - NoteFactorQuestion::kFirstNote) {
-        ui.texte5.SetCaption("Bravo ! ");
-        sounds().PlayVictorySound();
-        Count(true);
-    } else {
-        Tell(false, ui.texte5, "Erreur ! ");
-    }
-    shared().NoteName = NoteFactorQuestion::NoteOf(question_.NoteFactor);
-    ui.texte5.SetCaption(ui.texte5.caption() + question_.Explanation(shared().NoteName));
-    CountExercise();
-}
+}  // namespace onze

@@ -2,6 +2,8 @@
 
 #include "support/number_text.h"
 
+namespace onze {
+
 ProductQuestion ProductQuestion::Draw(Random& random) {
     const int first = random.Draw(11) + 2;
     const int second = random.Draw(11) + 2;
@@ -18,26 +20,27 @@ std::string ProductQuestion::Correction(bool right) const {
     return verdict + kContinueLine;
 }
 
-ProductPanel::ProductPanel(Form& form, SharedState& shared) : ExercisePanel(shared), ui{form} {
-    Link(ui.flech2, ui.chiffre3);
+ProductPanel::ProductPanel(Form& form, SharedState& shared, Tally& tally)
+    : ui{form}, exercise_(shared.sounds, tally, ui.texte, ui.encor_deux, {&ui.product}), shared_(shared) {
     ui.chiffre3.on_click = [this] { chiffre3_Click(); };
     ui.encor_deux.on_click = [this] { NewProductExercise(); };
 }
 
 void ProductPanel::NewProductExercise() {
-    const SilentArrows silent(sounds());
+    const SilentArrows silent(shared_.sounds);
     ui.texte.SetCaption(kEnterAnswer);
-    Ask(ui.flech2, ui.chiffre3);
+    ui.product.Begin();
     ui.encor_deux.Hide();
-    question_ = ProductQuestion::Draw(random());
+    question_ = ProductQuestion::Draw(shared_.random);
     ui.enonce2.SetCaption(question_.Text());
 }
 
 void ProductPanel::chiffre3_Click() {
-    if (!AnswerGuard(ui.chiffre3, ui.encor_deux)) return;
-    ui.encor_deux.Show();
-    ui.flech2.Hide();
-    const bool right = Val(ui.chiffre3.caption()) == question_.ProductAnswer();
-    Tell(right, ui.texte, question_.Correction(right));
-    CountExercise();
+    using enum Step;
+    if (!exercise_.AnswerGuard({&ui.product})) return;
+    const bool right = question_.IsRight(*ui.product.entered());
+    exercise_.Correct(right, question_.Correction(right),
+                      {kOffer, kClose, kCountVerdict, kPlay, kTell, kCountExercise});
 }
+
+}  // namespace onze

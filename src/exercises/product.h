@@ -2,7 +2,11 @@
 
 #include <string>
 
-#include "exercises/exercise_panel.h"
+#include "exercises/looks.h"
+#include "exercises/texts.h"
+#include "stats/exercise.h"
+
+namespace onze {
 
 // A product of two tables is asked.
 struct ProductQuestion {
@@ -11,14 +15,15 @@ struct ProductQuestion {
 
     static ProductQuestion Draw(Random& random);
     int ProductAnswer() const { return first * second; }
+    bool IsRight(int product) const { return product == ProductAnswer(); }
     std::string Text() const;
     std::string Correction(bool right) const;
 };
 
 // The second exercise, at the top right.
-class ProductPanel : private ExercisePanel {
+class ProductPanel {
   public:
-    ProductPanel(Form& form, SharedState& shared);
+    ProductPanel(Form& form, SharedState& shared, Tally& tally);
 
     void NewProductExercise();
 
@@ -27,15 +32,20 @@ class ProductPanel : private ExercisePanel {
         Form& form;
         //                  left  top   width height
         Label enonce2    { form, { 5160,  870, 1770, 195 }, "12 X",       Aligned(kExerciseLine, Align::kRight) };
-        Label chiffre3   { form, { 7020,  870,  240, 195 }, kUnanswered,  Answer(3_px) };
+        Label chiffre3   { form, { 7020,  870,  240, 195 }, kUnanswered,  ExerciseAnswer(3_px) };
         Label texte      { form, { 5040, 1260, 4350, 690 }, "",           kExerciseMessage };
         Label encor_deux { form, { 8445, 2025,  990, 240 }, "Continuer",  kExerciseButton };
         UpDown flech2    { form, ArrowOver(chiffre3),       { 0, 144 },   chiffre3 };
+        Answer product    { chiffre3, flech2, Str, kUnanswered };
     } ui;
     // clang-format on
 
   private:
     void chiffre3_Click();
 
+    Exercise exercise_;
+    SharedState& shared_;
     ProductQuestion question_{};
 };
+
+}  // namespace onze

@@ -3,16 +3,26 @@
 #include "forms/form.h"
 #include "forms/stage.h"
 
-Control::Control(Form& form, const Rect& box) : form_(form), box_(box) {
+namespace onze {
+
+Control::Control(Form& form, const Rect& box, Role role) : form_(form), box_(box), role_(role) {
     form.Add(*this);
 }
 
-Platform& Control::platform() const {
-    return form_.stage().platform();
+Control::~Control() {
+    form_.Remove(*this);
+}
+
+TextMeasure& Control::text_measure() const {
+    return form_.stage().text_measure();
 }
 
 void Control::Damage() const {
-    form_.Damage(Painted());
+    form_.Damage(PaintedBox());
+}
+
+void Control::Tell(const std::string& message) const {
+    form_.Tell(message);
 }
 
 void Control::SetBox(const Rect& box) {
@@ -53,8 +63,14 @@ Rect BoxAround(Point from, Point to, int width) {
 }  // namespace
 
 Line::Line(Form& form, Point from, Point to, int width, Color color)
-    : Control(form, BoxAround(from, to, width)), from_(from), to_(to), width_(width), color_(color) {}
+    : Control(form, BoxAround(from, to, width), Role::kDecoration),
+      from_(from),
+      to_(to),
+      width_(width),
+      color_(color) {}
 
 void Line::Paint(Canvas& canvas) const {
     canvas.DrawLine(from_, to_, width_, color_);
 }
+
+}  // namespace onze

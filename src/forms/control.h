@@ -2,20 +2,40 @@
 
 #include <functional>
 #include <initializer_list>
+#include <string>
 
 #include "forms/drawing.h"
 
+namespace onze {
+
 class Form;
-class Platform;
+class TextMeasure;
+
+// What a control is to its user.
+enum class Role {
+    kText,        // to read, whenever
+    kHeading,     // names what stands under it
+    kMessage,     // what an exercise asks or tells
+    kAnswer,      // entered with arrows, and clicked to have it corrected
+    kButton,      // clicked, under a caption
+    kZone,        // clicked, a part of the page's picture
+    kCell,        // of a table
+    kDecoration,  // nothing to anybody but the eye
+};
 
 // What every visible control of a form has. A control belongs to its form for life; it is neither copied nor
 // moved. Every change repaints the places concerned, and only those.
 class Control {
   public:
-    Control(Form& form, const Rect& box);
+    Control(Form& form, const Rect& box, Role role);
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
-    virtual ~Control() = default;
+    virtual ~Control();
+
+    Role role() const { return role_; }
+    // What tells it in words: its text, or what stands for the text that it has not.
+    virtual const std::string& name() const { return name_; }
+    void SetName(std::string name) { name_ = std::move(name); }
 
     const Rect& box() const { return box_; }
     bool visible() const { return visible_; }
@@ -30,23 +50,37 @@ class Control {
     void Hide() { SetVisible(false); }
     void SetEnabled(bool enabled);
 
-    // Where the pointer finds the control, and where it paints.
-    virtual Rect Reach() const { return box_; }
-    virtual Rect Painted() const { return Reach(); }
-    // Whether the pointer can do anything here.
-    virtual bool Reacts() const { return visible_ && enabled_ && (on_click || on_move); }
+    // Where the pointer finds the control, and what all its painting lies in.
+    virtual Rect HitBox() const { return box_; }
+    virtual Rect PaintedBox() const { return HitBox(); }
+    // Whether the pointer finds it, and whether a click on it would do something.
+    virtual bool TakesPointer() const { return visible_ && enabled_ && (on_click || on_move); }
+    virtual bool TakesClicks() const { return on_click != nullptr; }
     virtual void Paint(Canvas& canvas) const = 0;
+
+    // The pointer's button went down here; tells whether the press goes on by itself while it is held. Then
+    // it is repeated, wherever the pointer is by then, and ended.
+    virtual bool BeginPress(Point) { return false; }
+    virtual void RepeatPress(Point) {}
+    virtual void EndPress() {}
+    // The wheel was turned by whole notches (positive: away from the user); tells whether that was meant for
+    // it.
+    virtual bool TurnWheel(Point, int) { return false; }
 
     std::function<void()> on_click;
     std::function<void()> on_move;
 
   protected:
-    Platform& platform() const;
+    TextMeasure& text_measure() const;
     void Damage() const;
+    // Has a message told to whoever cannot see it.
+    void Tell(const std::string& message) const;
 
   private:
     Form& form_;
     Rect box_;
+    Role role_;
+    std::string name_;
     bool visible_ = true;
     bool enabled_ = true;
 };
@@ -58,7 +92,7 @@ inline void SetAllVisible(bool visible, std::initializer_list<Control*> controls
 // A click zone, or a picture drawn at its own size from the top-left corner of its box.
 class Image final : public Control {
   public:
-    using Control::Control;
+    Image(Form& form, const Rect& box, Role role = Role::kZone) : Control(form, box, role) {}
 
     const PicturePtr& picture() const { return picture_; }
     // A null picture empties the image.
@@ -74,7 +108,7 @@ class Line final : public Control {
   public:
     Line(Form& form, Point from, Point to, int width, Color color);
 
-    bool Reacts() const override { return false; }
+    bool TakesPointer() const override { return false; }
     void Paint(Canvas& canvas) const override;
 
   private:
@@ -83,3 +117,5 @@ class Line final : public Control {
     int width_;
     Color color_;
 };
+
+}  // namespace onze

@@ -5,6 +5,8 @@
 
 #include "forms/geometry.h"
 
+namespace onze {
+
 class Form;
 
 // Controls of one kind that are addressed by index; box_of(i) is the box of member i.
@@ -25,3 +27,5 @@ class ControlArray {
   private:
     std::deque<Kind> members_;
 };
+
+}  // namespace onze

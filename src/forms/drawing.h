@@ -7,6 +7,8 @@
 
 #include "forms/geometry.h"
 
+namespace onze {
+
 struct Color {
     std::uint8_t red = 0;
     std::uint8_t green = 0;
@@ -54,3 +56,5 @@ inline void FillKey(Canvas& canvas, const Rect& box, Color fill, Color foot, int
     canvas.FillBox(box, foot, radius);
     canvas.FillBox({box.left, box.top, box.width, box.height - 3_px}, fill, radius);
 }
+
+}  // namespace onze

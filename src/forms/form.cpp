@@ -4,7 +4,18 @@
 
 #include "forms/stage.h"
 
+namespace onze {
+
 Form::Form(Stage& stage) : stage_(stage) {}
+
+Form::~Form() {
+    stage_.Forget(*this);
+}
+
+void Form::Remove(Control& control) {
+    stage_.Forget(control);
+    std::erase(controls_, &control);
+}
 
 bool Form::visible() const {
     return stage_.IsShown(*this);
@@ -27,18 +38,24 @@ void Form::Damage(const Rect& box) const {
     if (stage_.front() == this) stage_.AddDamage(box);
 }
 
+void Form::Tell(const std::string& message) const {
+    if (stage_.front() == this) stage_.Tell(message);
+}
+
 void Form::Paint(Canvas& canvas, const Rect& clip) const {
     // A picture may be smaller than the page, or let through what lies under it.
     canvas.FillBox({0, 0, kPageWidth, kPageHeight}, {255, 255, 255}, 0);
     if (picture_) canvas.DrawPicture(*picture_, {0, 0});
     for (const Control* control : controls_) {
-        if (control->visible() && control->Painted().Meets(clip)) control->Paint(canvas);
+        if (control->visible() && control->PaintedBox().Meets(clip)) control->Paint(canvas);
     }
 }
 
 Control* Form::ControlAt(Point point) const {
     const auto found = std::find_if(controls_.rbegin(), controls_.rend(), [point](const Control* control) {
-        return control->Reacts() && control->Reach().Contains(point);
+        return control->TakesPointer() && control->HitBox().Contains(point);
     });
     return found == controls_.rend() ? nullptr : *found;
 }
+
+}  // namespace onze

@@ -6,8 +6,9 @@
 #include "forms/control.h"
 #include "forms/timer.h"
 
+namespace onze {
+
 class Stage;
-class UpDown;
 
 // A page of 640 x 480 pixels: a background picture under controls that are painted, and found by the pointer,
 // in the order of their declaration, the last on top. It is created hidden.
@@ -16,6 +17,7 @@ class Form {
     explicit Form(Stage& stage);
     Form(const Form&) = delete;
     Form& operator=(const Form&) = delete;
+    ~Form();
 
     Stage& stage() const { return stage_; }
     bool visible() const;
@@ -38,9 +40,13 @@ class Form {
   private:
     friend class Control;
     void Add(Control& control) { controls_.push_back(&control); }
+    void Remove(Control& control);
     void Damage(const Rect& box) const;
+    void Tell(const std::string& message) const;
 
     Stage& stage_;
     PicturePtr picture_;
     std::vector<Control*> controls_;
 };
+
+}  // namespace onze

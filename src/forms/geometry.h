@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace onze {
+
 // All measures are whole twips, 15 to a pixel of the 640 x 480 page, so that measures given in pixels and
 // measures given in twips are both kept exactly. Only a presenter rounds.
 inline constexpr int kTwipsPerPixel = 15;
@@ -75,3 +77,5 @@ struct Rect {
 
     friend bool operator==(const Rect&, const Rect&) = default;
 };
+
+}  // namespace onze

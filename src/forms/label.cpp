@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "forms/platform.h"
+namespace onze {
 
 namespace {
 
@@ -14,7 +14,7 @@ std::string_view Trimmed(std::string_view text) {
 }  // namespace
 
 Label::Label(Form& form, const Rect& box, std::string caption, const LabelStyle& style)
-    : Control(form, box), caption_(std::move(caption)), style_(style) {
+    : Control(form, box, style.role), caption_(std::move(caption)), style_(style) {
     FollowText();
 }
 
@@ -23,12 +23,14 @@ void Label::SetCaption(std::string caption) {
     caption_ = std::move(caption);
     layout_.reset();
     FollowText();
-    if (visible()) Damage();
+    if (!visible()) return;
+    Damage();
+    if (role() == Role::kMessage) Tell(caption_);
 }
 
 void Label::FollowText() {
     if (style_.auto_size == AutoSize::kNone) return;
-    const int width = LayOutUnwrapped(platform(), caption_, style_.font).Width();
+    const int width = LayOutUnwrapped(text_measure(), caption_, style_.font).Width();
     const bool keep_right = style_.auto_size == AutoSize::kKeepRight;
     SetBox({keep_right ? box().right() - width : box().left, box().top, width, box().height});
 }
@@ -41,7 +43,7 @@ TextLayout Label::Layout() const {
     const Size size{TextBox().width, TextBox().height};
     if (!layout_ || layout_box_ != size) {
         const std::string_view text = style_.align == Align::kCenter ? Trimmed(caption_) : caption_;
-        layout_ = LayOutInBox(platform(), text, style_.font, size, style_.last_line_limit);
+        layout_ = LayOutInBox(text_measure(), text, style_.font, size, style_.last_line_limit);
         layout_box_ = size;
     }
     return *layout_;
@@ -49,8 +51,8 @@ TextLayout Label::Layout() const {
 
 void Label::Paint(Canvas& canvas) const {
     if (style_.fill)
-        FillKey(canvas, Reach(), *style_.fill, style_.foot.value_or(*style_.fill), style_.radius);
-    if (style_.frame) canvas.FrameBox(Reach(), *style_.frame, style_.radius);
+        FillKey(canvas, HitBox(), *style_.fill, style_.foot.value_or(*style_.fill), style_.radius);
+    if (style_.frame) canvas.FrameBox(HitBox(), *style_.frame, style_.radius);
     if (!caption_.empty()) PaintText(canvas);
 }
 
@@ -68,3 +70,5 @@ void Label::PaintText(Canvas& canvas) const {
         top += layout.line_height;
     }
 }
+
+}  // namespace onze

@@ -6,12 +6,15 @@
 #include "forms/control.h"
 #include "forms/text_layout.h"
 
+namespace onze {
+
 enum class Align { kLeft, kCenter, kRight };
 
 // Whether a label's width follows its text, and which of its edges then stays where it is.
 enum class AutoSize { kNone, kKeepLeft, kKeepRight };
 
 struct LabelStyle {
+    Role role = Role::kText;
     Font font{};
     Color color{};
     std::optional<Color> disabled_color{};  // while the label is disabled, where that shows
@@ -37,8 +40,10 @@ class Label final : public Control {
     const LabelStyle& style() const { return style_; }
     void SetCaption(std::string caption);
 
-    Rect Reach() const override { return box().Grown(style_.outset); }
-    Rect Painted() const override { return Reach().United(TextBox()); }
+    // Its text; what has no text can still have been given a name.
+    const std::string& name() const override { return caption_.empty() ? Control::name() : caption_; }
+    Rect HitBox() const override { return box().Grown(style_.outset); }
+    Rect PaintedBox() const override { return HitBox().United(TextBox()); }
     void Paint(Canvas& canvas) const override;
     // The text as it is painted.
     TextLayout Layout() const;
@@ -53,3 +58,5 @@ class Label final : public Control {
     mutable std::optional<TextLayout> layout_;
     mutable Size layout_box_;
 };
+
+}  // namespace onze

@@ -2,6 +2,8 @@
 
 #include "forms/label.h"
 
+namespace onze {
+
 // What all screens share of the program's looks.
 
 inline constexpr Color kBlack{0, 0, 0};
@@ -17,7 +19,15 @@ inline constexpr Color kArrowFrame{154, 103, 10};
 inline constexpr Color kArrowMark{92, 58, 0};
 inline constexpr int kArrowRadius = 3_px;
 
-inline const LabelStyle kButton{.font = {8.25_pt, true},
+// The looks of each role; a screen changes of them what is its own.
+inline const LabelStyle kAnswer{.role = Role::kAnswer,
+                                .align = Align::kCenter,
+                                .middle = true,
+                                .fill = Color{255, 255, 255},
+                                .radius = 3_px};
+
+inline const LabelStyle kButton{.role = Role::kButton,
+                                .font = {8.25_pt, true},
                                 .color = kInk,
                                 .align = Align::kCenter,
                                 .middle = true,
@@ -36,3 +46,5 @@ inline LabelStyle AutoSized(LabelStyle style, AutoSize auto_size) {
     style.auto_size = auto_size;
     return style;
 }
+
+}  // namespace onze

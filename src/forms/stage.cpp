@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "forms/platform.h"
-#include "forms/up_down.h"
+namespace onze {
 
 namespace {
 
@@ -20,19 +19,30 @@ bool Stage::IsShown(const Form& form) const {
 void Stage::Show(Form& form) {
     Hide(form);
     shown_.push_back(&form);
-    AddDamage({0, 0, kPageWidth, kPageHeight});
+    DamageAll();
     if (form.on_activate) form.on_activate();
 }
 
 void Stage::Hide(Form& form) {
     if (front() == &form) CancelPress();
     std::erase(shown_, &form);
-    AddDamage({0, 0, kPageWidth, kPageHeight});
+    DamageAll();
+}
+
+void Stage::Forget(const Form& form) {
+    std::erase(shown_, &form);
+    if (gesture_page_ == &form) gesture_page_ = nullptr;
+}
+
+void Stage::Forget(const Control& control) {
+    if (pressed_ != &control) return;
+    pressed_ = nullptr;
+    repeat_due_.reset();
 }
 
 void Stage::Move(Point point) {
     pointer_ = point;
-    if (pressed_ || held_ || !front()) return;
+    if (pressed_ || !front()) return;
     const Control* control = front()->ControlAt(point);
     const auto& handler = control && control->on_move ? control->on_move : front()->on_move;
     if (handler) handler();
@@ -53,12 +63,7 @@ void Stage::Press(Point point, const DoubleClick& rule) {
     last_pressed_at_ = rule.pressed_at;
     if (!front() || front() != gesture_page_) return;
     pressed_ = front()->ControlAt(point);
-    held_ = dynamic_cast<UpDown*>(pressed_);
-    if (!held_) return;
-    held_half_ = held_->HalfAt(point);
-    held_due_ = platform_.TickCount() + kFirstRepeatMs;
-    held_->SetHeldHalf(held_half_);
-    held_->Step(held_half_);
+    if (pressed_ && pressed_->BeginPress(point)) repeat_due_ = clock_.TickCount() + kFirstRepeatMs;
 }
 
 void Stage::Release(Point point) {
@@ -72,29 +77,25 @@ void Stage::Release(Point point) {
 }
 
 void Stage::CancelPress() {
-    if (held_) held_->SetHeldHalf(0);
+    if (repeat_due_) pressed_->EndPress();
+    repeat_due_.reset();
     pressed_ = nullptr;
-    held_ = nullptr;
 }
 
 void Stage::Wheel(Point point, int notches) {
     if (!front()) return;
     for (Control* control : front()->controls()) {
-        auto* const arrows = dynamic_cast<UpDown*>(control);
-        if (!arrows || !arrows->TakesWheelAt(point)) continue;
-        for (int i = 0; i < std::abs(notches); ++i) arrows->Step(notches > 0 ? 1 : -1);
-        return;
+        if (control->TurnWheel(point, notches)) return;
     }
 }
 
 bool Stage::ReactsToClickAt(Point point) const {
     const Control* control = front() ? front()->ControlAt(point) : nullptr;
-    return control && (control->on_click || dynamic_cast<const UpDown*>(control));
+    return control && control->TakesClicks();
 }
 
 std::optional<std::int64_t> Stage::NextDue() const {
-    std::optional<std::int64_t> next;
-    if (held_) next = held_due_;
+    std::optional<std::int64_t> next = repeat_due_;
     for (const Timer* timer : timers_) {
         if (timer->due() && (!next || *timer->due() < *next)) next = timer->due();
     }
@@ -102,17 +103,16 @@ std::optional<std::int64_t> Stage::NextDue() const {
 }
 
 void Stage::RunDue() {
-    const std::int64_t now = platform_.TickCount();
-    if (held_ && held_due_ <= now) RepeatHeld();
+    const std::int64_t now = clock_.TickCount();
+    if (repeat_due_ && *repeat_due_ <= now) RepeatPress();
     for (Timer* timer : timers_) {
         if (timer->due() && *timer->due() <= now) timer->Run();
     }
 }
 
-void Stage::RepeatHeld() {
-    held_due_ = platform_.TickCount() + kRepeatMs;
-    const bool under_pointer = held_->Reacts() && held_->box().Contains(pointer_);
-    if (under_pointer && held_->HalfAt(pointer_) == held_half_) held_->Step(held_half_);
+void Stage::RepeatPress() {
+    repeat_due_ = clock_.TickCount() + kRepeatMs;
+    pressed_->RepeatPress(pointer_);
 }
 
 void Stage::Paint(Canvas& canvas, const Rect& clip) const {
@@ -124,3 +124,5 @@ Rect Stage::TakeDamage() {
     damage_ = {};
     return damage;
 }
+
+}  // namespace onze

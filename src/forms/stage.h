@@ -2,12 +2,15 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
+#include <utility>
 #include <vector>
 
+#include "forms/clock.h"
 #include "forms/form.h"
+#include "forms/text_measure.h"
 
-class Platform;
-class UpDown;
+namespace onze {
 
 // When a press came, and within how much of time and of distance the system takes it for one gesture with the
 // press before it: a double click, or more.
@@ -22,11 +25,12 @@ struct DoubleClick {
 // Any call may throw RunTimeError; the run is then over.
 class Stage {
   public:
-    explicit Stage(Platform& platform) : platform_(platform) {}
+    Stage(const Clock& clock, TextMeasure& text_measure) : clock_(clock), text_measure_(text_measure) {}
     Stage(const Stage&) = delete;
     Stage& operator=(const Stage&) = delete;
 
-    Platform& platform() const { return platform_; }
+    const Clock& clock() const { return clock_; }
+    TextMeasure& text_measure() const { return text_measure_; }
 
     // The pointer, in twips of the page: moved, its main button pressed or released, its wheel turned by
     // whole notches (positive: away from the user). Once a gesture has changed the page, its further presses
@@ -46,6 +50,9 @@ class Stage {
     void RunDue();
 
     void Paint(Canvas& canvas, const Rect& clip) const;
+    void DamageAll() { AddDamage({0, 0, kPageWidth, kPageHeight}); }
+    // The messages that changed on the page shown since the last call, a line each.
+    std::string TakeMessages() { return std::exchange(messages_, {}); }
     // What has to be painted anew since the last call; an empty box for nothing.
     Rect TakeDamage();
 
@@ -56,23 +63,29 @@ class Stage {
   private:
     friend class Form;
     friend class Timer;
+    void Tell(const std::string& message) { messages_ += (messages_.empty() ? "" : "\n") + message; }
+    void Forget(const Form& form);
+    void Forget(const Control& control);
+    void Remove(Timer& timer) { std::erase(timers_, &timer); }
     void Show(Form& form);
     void Hide(Form& form);
     void Add(Timer& timer) { timers_.push_back(&timer); }
     void AddDamage(const Rect& box) { damage_ = damage_.United(box); }
     bool ContinuesGesture(Point point, const DoubleClick& rule) const;
-    void RepeatHeld();
+    void RepeatPress();
 
-    Platform& platform_;
+    const Clock& clock_;
+    TextMeasure& text_measure_;
     std::vector<Form*> shown_;
     std::vector<Timer*> timers_;
     Rect damage_;
+    std::string messages_;
     Point pointer_;
     const Form* gesture_page_ = nullptr;  // where the gesture began
     Point last_press_;
     std::int64_t last_pressed_at_ = 0;
     Control* pressed_ = nullptr;
-    UpDown* held_ = nullptr;
-    int held_half_ = 0;
-    std::int64_t held_due_ = 0;
+    std::optional<std::int64_t> repeat_due_;  // while a press goes on by itself
 };
+
+}  // namespace onze

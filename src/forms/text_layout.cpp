@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <limits>
 
-#include "forms/platform.h"
+namespace onze {
 
 namespace {
 
@@ -34,8 +34,8 @@ constexpr int kShrinkStep = 0.25_pt;
 
 class Wrapper {
   public:
-    Wrapper(Platform& platform, const Font& font, int width)
-        : platform_(platform), width_(width), layout_{font, platform.MeasureText(" ", font).height, {}} {}
+    Wrapper(TextMeasure& measure, const Font& font, int width)
+        : measure_(measure), width_(width), layout_{font, measure.MeasureText(" ", font).height, {}} {}
 
     void AddParagraph(std::string_view text) {
         std::string line;
@@ -57,20 +57,20 @@ class Wrapper {
     TextLayout Take() { return std::move(layout_); }
 
   private:
-    int WidthOf(std::string_view line) { return platform_.MeasureText(line, layout_.font).width; }
+    int WidthOf(std::string_view line) { return measure_.MeasureText(line, layout_.font).width; }
 
     void AddLine(std::string line) {
         const int width = WidthOf(line);
         layout_.lines.push_back({std::move(line), width});
     }
 
-    Platform& platform_;
+    TextMeasure& measure_;
     int width_;
     TextLayout layout_;
 };
 
-TextLayout LayOut(Platform& platform, std::string_view text, const Font& font, int width) {
-    Wrapper wrapper(platform, font, width);
+TextLayout LayOut(TextMeasure& measure, std::string_view text, const Font& font, int width) {
+    Wrapper wrapper(measure, font, width);
     while (true) {
         const auto line_break = text.find('\r');
         wrapper.AddParagraph(text.substr(0, line_break));
@@ -87,15 +87,15 @@ int TextLayout::Width() const {
     return width;
 }
 
-TextLayout LayOutUnwrapped(Platform& platform, std::string_view text, const Font& font) {
-    return LayOut(platform, text, font, std::numeric_limits<int>::max());
+TextLayout LayOutUnwrapped(TextMeasure& measure, std::string_view text, const Font& font) {
+    return LayOut(measure, text, font, std::numeric_limits<int>::max());
 }
 
-TextLayout LayOutInBox(Platform& platform, std::string_view text, const Font& font, Size box,
+TextLayout LayOutInBox(TextMeasure& measure, std::string_view text, const Font& font, Size box,
                        int last_line_limit) {
     Font smaller = font;
     while (true) {
-        TextLayout layout = LayOut(platform, text, smaller, box.width);
+        TextLayout layout = LayOut(measure, text, smaller, box.width);
         const int last_line = last_line_limit > 0 ? last_line_limit : box.width;
         const bool fits = layout.Width() <= box.width && layout.Height() <= box.height &&
                           layout.lines.back().width <= last_line;
@@ -103,3 +103,5 @@ TextLayout LayOutInBox(Platform& platform, std::string_view text, const Font& fo
         smaller.height -= kShrinkStep;
     }
 }
+
+}  // namespace onze

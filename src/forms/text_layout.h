@@ -4,9 +4,9 @@
 #include <string_view>
 #include <vector>
 
-#include "forms/drawing.h"
+#include "forms/text_measure.h"
 
-class Platform;
+namespace onze {
 
 struct TextLine {
     std::string text;
@@ -24,9 +24,11 @@ struct TextLayout {
 };
 
 // The text as it stands, broken at its carriage returns only.
-TextLayout LayOutUnwrapped(Platform& platform, std::string_view text, const Font& font);
+TextLayout LayOutUnwrapped(TextMeasure& measure, std::string_view text, const Font& font);
 
 // The text wrapped into a box, in the font asked for or, when it would not fit, in the largest smaller size
 // that does (down to 4 points). The last line may be given a narrower limit than the box (0: none).
-TextLayout LayOutInBox(Platform& platform, std::string_view text, const Font& font, Size box,
+TextLayout LayOutInBox(TextMeasure& measure, std::string_view text, const Font& font, Size box,
                        int last_line_limit = 0);
+
+}  // namespace onze

@@ -4,6 +4,8 @@
 #include <functional>
 #include <optional>
 
+namespace onze {
+
 class Stage;
 
 // Runs on_timer when its time has come, again and again until it is stopped, whether its screen is shown or
@@ -13,6 +15,7 @@ class Timer {
     explicit Timer(Stage& stage);
     Timer(const Timer&) = delete;
     Timer& operator=(const Timer&) = delete;
+    ~Timer();
 
     // First due in this many milliseconds, then the same time after each run.
     void Start(std::int64_t interval_ms);
@@ -29,3 +32,5 @@ class Timer {
     std::int64_t interval_ms_ = 0;
     std::optional<std::int64_t> due_;
 };
+
+}  // namespace onze

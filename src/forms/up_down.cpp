@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 
-#include "forms/label.h"
 #include "forms/look.h"
 
+namespace onze {
+
 UpDown::UpDown(Form& form, const Rect& box, const Range& range, const Label& answer)
-    : Control(form, box), answer_(answer), range_(range), value_(range.minimum) {}
+    : Control(form, box, Role::kAnswer), answer_(answer), range_(range), value_(range.minimum) {}
 
 void UpDown::SetValue(int value) {
     const int bounded = std::clamp(value, range_.minimum, range_.maximum);
@@ -27,8 +29,21 @@ void UpDown::SetHeldHalf(int direction) {
     Damage();
 }
 
-bool UpDown::TakesWheelAt(Point point) const {
-    return Reacts() && (box().Contains(point) || (answer_.visible() && answer_.Reach().Contains(point)));
+bool UpDown::BeginPress(Point point) {
+    SetHeldHalf(HalfAt(point));
+    Step(held_half_);
+    return true;
+}
+
+void UpDown::RepeatPress(Point pointer) {
+    if (TakesPointer() && box().Contains(pointer) && HalfAt(pointer) == held_half_) Step(held_half_);
+}
+
+bool UpDown::TurnWheel(Point point, int notches) {
+    const bool over_answer = answer_.visible() && answer_.HitBox().Contains(point);
+    if (!TakesPointer() || !(box().Contains(point) || over_answer)) return false;
+    for (int i = 0; i < std::abs(notches); ++i) Step(notches > 0 ? 1 : -1);
+    return true;
 }
 
 void UpDown::Paint(Canvas& canvas) const {
@@ -52,3 +67,5 @@ void UpDown::PaintHalf(Canvas& canvas, int direction) const {
                                         Point{middle.x, middle.y - direction * reach}};
     canvas.FillPolygon(triangle, kArrowMark);
 }
+
+}  // namespace onze

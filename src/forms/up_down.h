@@ -1,8 +1,8 @@
 #pragma once
 
-#include "forms/control.h"
+#include "forms/label.h"
 
-class Label;
+namespace onze {
 
 // A pair of arrows around a whole number: the upper half raises it by the increment, the lower half lowers
 // it. A step that would pass a limit is refused. on_change runs when, and only when, the value really
@@ -23,26 +23,31 @@ class UpDown final : public Control {
     void SetValue(int value);
     void SetIncrement(int increment) { increment_ = increment; }
 
-    // One press on a half: direction 1 (up) or -1 (down).
+    // One step up (direction 1) or down (-1).
     void Step(int direction);
-    // The half under a point: 1 (up) or -1 (down).
-    int HalfAt(Point point) const { return point.y < box().top + box().height / 2 ? 1 : -1; }
-    // The half that is held down, 0 for none; only looks depend on it.
-    void SetHeldHalf(int direction);
 
-    bool Reacts() const override { return visible() && enabled(); }
-    // Whether the wheel turned at this point steps the arrows.
-    bool TakesWheelAt(Point point) const;
+    const std::string& name() const override { return answer_.name(); }
+    bool TakesPointer() const override { return visible() && enabled(); }
+    bool TakesClicks() const override { return true; }
+    bool BeginPress(Point point) override;
+    void RepeatPress(Point pointer) override;
+    void EndPress() override { SetHeldHalf(0); }
+    bool TurnWheel(Point point, int notches) override;
     void Paint(Canvas& canvas) const override;
 
     std::function<void()> on_change;
 
   private:
+    // The half under a point: 1 (upper) or -1 (lower).
+    int HalfAt(Point point) const { return point.y < box().top + box().height / 2 ? 1 : -1; }
+    void SetHeldHalf(int direction);
     void PaintHalf(Canvas& canvas, int direction) const;
 
     const Label& answer_;
     Range range_;
     int value_;
     int increment_ = 1;
-    int held_half_ = 0;
+    int held_half_ = 0;  // 1 or -1 while it is held
 };
+
+}  // namespace onze

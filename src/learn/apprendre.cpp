@@ -1,5 +1,9 @@
 #include "learn/apprendre.h"
 
+#include "learn/table_pictures.h"
+
+namespace onze {
+
 namespace {
 
 constexpr Color kTitleRule{70, 110, 190};
@@ -24,8 +28,9 @@ Rect ProductBox(int i) {
 
 }  // namespace
 
-Apprendre::Apprendre(Stage& stage, SharedState& shared, Form& depart)
-    : form(stage),
+Apprendre::Apprendre(Stage& stage, SharedState& shared, PictureClip& anim, Form& depart)
+    : tally_(shared),
+      form(stage),
       titre(form, {120_px, 8_px, 400_px, 30_px}, "", kTitle),
       multiplicateur(form, 13, NumberBox),
       resultat(form, 36, ProductBox),
@@ -36,15 +41,22 @@ Apprendre::Apprendre(Stage& stage, SharedState& shared, Form& depart)
       Line5(form, {246_px, 299_px}, {622_px, 299_px}, 1_px, kPanelRule),
       Line6(form, {246_px, 394_px}, {622_px, 394_px}, 1_px, kPanelRule),
       Line7(form, {246_px, 465_px}, {530_px, 465_px}, 1_px, kPanelRule),
-      factoring(form, shared),
-      multiple(form, shared),
-      letter_code(form, shared),
-      missing_sign(form, shared),
+      factoring(form, shared, tally_),
+      multiple(form, shared, tally_),
+      letter_code(form, shared, tally_),
+      missing_sign(form, shared, tally_),
       retour(form, {552_px, 459_px, 76_px, 17_px}, "RETOUR", kButton),
       sounds_(shared.sounds),
+      anim_(anim),
       depart_(depart) {
     form.on_activate = [this] { Form_Activate(); };
     retour.on_click = [this] { retour_Click(); };
+}
+
+void Apprendre::Prepare(int table) {
+    ShowTableNumber(anim_, *this, table);
+    ShowTableProducts(anim_, *this, table);
+    titre.SetCaption(kPlayWithTable + Str(table));
 }
 
 void Apprendre::Form_Activate() {
@@ -63,3 +75,5 @@ void Apprendre::retour_Click() {
     form.Hide();
     for (Image& cell : resultat) cell.SetPicture(nullptr);
 }
+
+}  // namespace onze

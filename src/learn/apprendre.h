@@ -6,12 +6,19 @@
 #include "learn/letter_code.h"
 #include "learn/missing_sign.h"
 #include "learn/multiple.h"
+#include "services/picture_clip.h"
 
-// The learning screen: one table as pictures of digits, which the start screen draws, and four exercises on
-// it.
+namespace onze {
+
+// The learning screen: one table as pictures of digits, and four exercises on it.
 class Apprendre {
+    TableTally tally_;
+
   public:
-    Apprendre(Stage& stage, SharedState& shared, Form& depart);
+    Apprendre(Stage& stage, SharedState& shared, PictureClip& anim, Form& depart);
+
+    // Shows a table, 2 to 12: its number and its products, with pictures cut from the strip, and the title.
+    void Prepare(int table);
 
     Form form;
     Label titre;
@@ -29,5 +36,8 @@ class Apprendre {
     void retour_Click();
 
     Sounds& sounds_;
+    PictureClip& anim_;
     Form& depart_;
 };
+
+}  // namespace onze

@@ -4,6 +4,8 @@
 
 #include "support/number_text.h"
 
+namespace onze {
+
 FactoringQuestion FactoringQuestion::Draw(Random& random, int table) {
     random.Randomize();
     const bool sum = random.Draw(2) == 0;
@@ -19,43 +21,40 @@ std::string FactoringQuestion::Text() const {
 }
 
 std::string FactoringQuestion::Correction(bool right) const {
-    const std::string verdict = right ? "Gagné ! Vous avez trouvé le bon résultat !"
-                                      : "Erreur ! " + Text() + Str(Answer()) + " =" + Str(Answer() * table);
+    const std::string verdict =
+        right ? "Gagné ! Vous avez trouvé le bon résultat !"
+              : "Erreur ! " + Text() + Str(FactoringAnswer()) + " =" + Str(FactoringAnswer() * table);
     return verdict + kContinueLine;
 }
 
-FactoringPanel::FactoringPanel(Form& form, SharedState& shared) : Panel(shared), ui{form} {
-    ui.fleche.on_change = [this] { fleche_Change(); };
+FactoringPanel::FactoringPanel(Form& form, SharedState& shared, Tally& tally)
+    : ui{form},
+      exercise_(shared.sounds, tally, ui.label_table1, ui.encore_un, {&ui.factor}),
+      shared_(shared) {
     ui.chiffre.on_click = [this] { chiffre_Click(); };
     ui.encore_un.on_click = [this] { NewFactoringQuestion(); };
 }
 
 void FactoringPanel::NewFactoringQuestion() {
-    const SilentArrows silent(sounds());
-    ui.fleche.SetValue(0);
+    const SilentArrows silent(shared_.sounds);
+    ui.factor.Begin();
     ui.encore_un.Hide();
-    ui.chiffre.SetCaption(kUnanswered);
-    ui.fleche.Show();
     ui.label_table1.SetCaption(kEnterAnswer);
-    question_ = FactoringQuestion::Draw(shared().random, table());
+    question_ = FactoringQuestion::Draw(shared_.random, shared_.CurrentTable);
     ui.enonce.SetCaption(question_.Text());
 }
 
 void FactoringPanel::Leave() {
-    ui.fleche.SetValue(0);
+    ui.factor.Rewind();
     ui.encore_un.Hide();
 }
 
-void FactoringPanel::fleche_Change() {
-    ShowNumber(ui.fleche, ui.chiffre);
+void FactoringPanel::chiffre_Click() {
+    using enum Step;
+    if (!exercise_.AnswerGuard({&ui.factor})) return;
+    const bool right = question_.IsRight(*ui.factor.entered());
+    exercise_.Correct(right, question_.Correction(right),
+                      {kCountExercise, kOffer, kClose, kPlay, kCountVerdict, kTell});
 }
 
-void FactoringPanel::chiffre_Click() {
-    if (ui.chiffre.caption() == kUnanswered || ui.encore_un.visible()) return;
-    CountExercise();
-    ui.encore_un.Show();
-    ui.fleche.Hide();
-    const bool right = Val(ui.chiffre.caption()) == question_.Answer();
-    SoundAndCount(right);
-    ui.label_table1.SetCaption(question_.Correction(right));
-}
+}  // namespace onze

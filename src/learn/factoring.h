@@ -2,7 +2,11 @@
 
 #include <string>
 
-#include "learn/panel.h"
+#include "learn/looks.h"
+#include "stats/exercise.h"
+#include "support/number_text.h"
+
+namespace onze {
 
 // A sum or a difference of two multiples of the table, the larger first in a difference, whose factor is
 // asked.
@@ -13,15 +17,16 @@ struct FactoringQuestion {
     int second;
 
     static FactoringQuestion Draw(Random& random, int table);
-    int Answer() const { return sum ? first + second : first - second; }
+    int FactoringAnswer() const { return sum ? first + second : first - second; }
+    bool IsRight(int factor) const { return factor == FactoringAnswer(); }
     std::string Text() const;
     std::string Correction(bool right) const;
 };
 
 // The first panel of the learning screen.
-class FactoringPanel : private Panel {
+class FactoringPanel {
   public:
-    FactoringPanel(Form& form, SharedState& shared);
+    FactoringPanel(Form& form, SharedState& shared, Tally& tally);
 
     void NewFactoringQuestion();
     // What leaving the screen resets.
@@ -36,12 +41,16 @@ class FactoringPanel : private Panel {
         Label label_table1   { form, { 246_px,  84_px, 376_px, 48_px }, kEnterAnswer, kPanelMessage };
         Label encore_un      { form, { 549_px,  57_px,  70_px, 16_px }, "Continuer",  kButton };
         UpDown fleche        { form, { 474_px,  50_px,  22_px, 30_px }, { 0, 50 },    chiffre };
+        Answer factor        { chiffre, fleche, Digits, kUnanswered };
     } ui;
     // clang-format on
 
   private:
-    void fleche_Change();
     void chiffre_Click();
 
+    Exercise exercise_;
+    SharedState& shared_;
     FactoringQuestion question_{};
 };
+
+}  // namespace onze

@@ -2,48 +2,42 @@
 
 #include "support/number_text.h"
 
+namespace onze {
+
 std::string LetterCodeQuestion::Text() const {
     return "X" + Str(table) + " =" + Str(table * LetterCodeAnswer);
 }
 
 std::string LetterCodeQuestion::Correction(bool right) const {
-    const std::string letter(1, LetterOf(LetterCodeAnswer));
+    const std::string letter = LetterOfCode(CodeOf(LetterCodeAnswer));
     return (right ? "Bravo ! " : "Faux ! ") + letter + " =" + Str(LetterCodeAnswer) + " donc " + letter +
            " X" + Str(table) + " =" + Str(LetterCodeAnswer) + " X" + Str(table) + " =" +
            Str(table * LetterCodeAnswer) + kContinueLine;
 }
 
-LetterCodePanel::LetterCodePanel(Form& form, SharedState& shared) : Panel(shared), ui{form} {
-    ui.fleche4.on_change = [this] { fleche4_Change(); };
+LetterCodePanel::LetterCodePanel(Form& form, SharedState& shared, Tally& tally)
+    : ui{form}, exercise_(shared.sounds, tally, ui.enonce3, ui.encore_trois, {&ui.letter}), shared_(shared) {
     ui.chiffre4.on_click = [this] { chiffre4_Click(); };
     ui.encore_trois.on_click = [this] { NewLetterCodeQuestion(); };
 }
 
 void LetterCodePanel::NewLetterCodeQuestion() {
-    const SilentArrows silent(sounds());
+    const SilentArrows silent(shared_.sounds);
     ui.enonce3.SetCaption(
         "Sachant que A=1, B=2, C=3 ... Y=25, Z=26,\r"
         "entrez votre réponse grâce aux flèches puis cliquez sur cette réponse pour la correction.");
-    ui.fleche4.SetValue('A');
-    ui.fleche4.Show();
+    ui.letter.Begin();
     ui.encore_trois.Hide();
-    ui.chiffre4.SetCaption("A");
-    question_ = LetterCodeQuestion::Draw(shared().random, table());
+    question_ = LetterCodeQuestion::Draw(shared_.random, shared_.CurrentTable);
     ui.operation3.SetCaption(question_.Text());
 }
 
-void LetterCodePanel::fleche4_Change() {
-    sounds().PlayClickSound();
-    ui.chiffre4.SetCaption(std::string(1, static_cast<char>(ui.fleche4.value())));
+void LetterCodePanel::chiffre4_Click() {
+    using enum Step;
+    if (!exercise_.AnswerGuard({&ui.letter})) return;
+    const bool right = question_.IsRight(*ui.letter.entered());
+    exercise_.Correct(right, question_.Correction(right),
+                      {kCountExercise, kClose, kOffer, kPlay, kCountVerdict, kTell});
 }
 
-void LetterCodePanel::chiffre4_Click() {
-    if (ui.encore_trois.visible()) return;
-    CountExercise();
-    ui.fleche4.Hide();
-    ui.encore_trois.Show();
-    const char letter = ui.chiffre4.caption().front();
-    const bool right = LetterCodeQuestion::NumberOf(letter) == question_.LetterCodeAnswer;
-    SoundAndCount(right);
-    ui.enonce3.SetCaption(question_.Correction(right));
-}
+}  // namespace onze

@@ -2,7 +2,10 @@
 
 #include <string>
 
-#include "learn/panel.h"
+#include "learn/looks.h"
+#include "stats/exercise.h"
+
+namespace onze {
 
 // A letter that stands for a number, A = 1 to Z = 26, is asked by its product with the table.
 struct LetterCodeQuestion {
@@ -11,17 +14,19 @@ struct LetterCodeQuestion {
 
     // Goes on with the random sequence as it is.
     static LetterCodeQuestion Draw(Random& random, int table) { return {table, random.Draw(26) + 1}; }
-    static int NumberOf(char letter) { return letter - 'A' + 1; }
-    static char LetterOf(int number) { return static_cast<char>('A' + number - 1); }
+    // Letters go by their character codes.
+    static int CodeOf(int number) { return 'A' + number - 1; }
+    static std::string LetterOfCode(int code) { return std::string(1, static_cast<char>(code)); }
+    bool IsRight(int code) const { return code == CodeOf(LetterCodeAnswer); }
 
     std::string Text() const;
     std::string Correction(bool right) const;
 };
 
 // The third panel of the learning screen.
-class LetterCodePanel : private Panel {
+class LetterCodePanel {
   public:
-    LetterCodePanel(Form& form, SharedState& shared);
+    LetterCodePanel(Form& form, SharedState& shared, Tally& tally);
 
     void NewLetterCodeQuestion();
 
@@ -34,12 +39,16 @@ class LetterCodePanel : private Panel {
         Label operation3     { form, { 306_px, 271_px, 160_px, 22_px }, "",          kPanelLine };
         Label encore_trois   { form, { 549_px, 274_px,  70_px, 16_px }, "Continuer", kButton };
         UpDown fleche4       { form, { 278_px, 267_px,  22_px, 30_px }, { 65, 90 },  chiffre4 };
+        Answer letter        { chiffre4, fleche4, LetterCodeQuestion::LetterOfCode, "" };
     } ui;
     // clang-format on
 
   private:
-    void fleche4_Change();
     void chiffre4_Click();
 
+    Exercise exercise_;
+    SharedState& shared_;
     LetterCodeQuestion question_{};
 };
+
+}  // namespace onze

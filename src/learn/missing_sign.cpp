@@ -4,6 +4,8 @@
 
 #include "support/number_text.h"
 
+namespace onze {
+
 MissingSignQuestion MissingSignQuestion::Draw(Random& random, int table) {
     random.Randomize();
     int first = random.Draw(12) + 1;
@@ -49,35 +51,28 @@ std::string MissingSignQuestion::Correction(bool right) const {
            kContinueLine;
 }
 
-MissingSignPanel::MissingSignPanel(Form& form, SharedState& shared) : Panel(shared), ui{form} {
-    ui.fleche5.on_change = [this] { fleche5_Change(); };
+MissingSignPanel::MissingSignPanel(Form& form, SharedState& shared, Tally& tally)
+    : ui{form}, exercise_(shared.sounds, tally, ui.enonce4, ui.encore_quatre, {&ui.sign}), shared_(shared) {
     ui.signe.on_click = [this] { signe_Click(); };
     ui.encore_quatre.on_click = [this] { NewMissingSignQuestion(); };
 }
 
 void MissingSignPanel::NewMissingSignQuestion() {
-    const SilentArrows silent(sounds());
+    const SilentArrows silent(shared_.sounds);
     ui.enonce4.SetCaption(kChooseSign);
-    ui.fleche5.SetValue(0);
-    ui.fleche5.Show();
+    ui.sign.Begin();
     ui.encore_quatre.Hide();
-    question_ = MissingSignQuestion::Draw(shared().random, table());
+    question_ = MissingSignQuestion::Draw(shared_.random, shared_.CurrentTable);
     ui.chiffre5.SetCaption(question_.FirstOperand());
-    ui.signe.SetCaption("?");
     ui.operation4.SetCaption(question_.Rest());
 }
 
-void MissingSignPanel::fleche5_Change() {
-    sounds().PlayClickSound();
-    ui.signe.SetCaption(MissingSignQuestion::SignText(ui.fleche5.value()));
+void MissingSignPanel::signe_Click() {
+    using enum Step;
+    if (!exercise_.AnswerGuard({&ui.sign})) return;
+    const bool right = question_.IsRight(*ui.sign.entered());
+    exercise_.Correct(right, question_.Correction(right),
+                      {kCountExercise, kClose, kOffer, kCountVerdict, kPlay, kTell});
 }
 
-void MissingSignPanel::signe_Click() {
-    if (ui.signe.caption() == "?" || ui.encore_quatre.visible()) return;
-    CountExercise();
-    ui.fleche5.Hide();
-    ui.encore_quatre.Show();
-    const bool right = ui.fleche5.value() == question_.MissingSign;
-    CountAndSound(right);
-    ui.enonce4.SetCaption(question_.Correction(right));
-}
+}  // namespace onze

@@ -2,7 +2,10 @@
 
 #include <string>
 
-#include "learn/panel.h"
+#include "learn/looks.h"
+#include "stats/exercise.h"
+
+namespace onze {
 
 inline const std::string kChooseSign =
     "Entrez le signe grâce aux flèches puis cliquez sur ce signe pour la correction.";
@@ -18,6 +21,7 @@ struct MissingSignQuestion {
     static MissingSignQuestion Draw(Random& random, int table);
     static const std::string& SignText(int sign);
 
+    bool IsRight(int sign) const { return sign == MissingSign; }
     std::string FirstOperand() const;
     std::string Rest() const;
     std::string Correction(bool right) const;
@@ -28,9 +32,9 @@ struct MissingSignQuestion {
 };
 
 // The fourth panel of the learning screen.
-class MissingSignPanel : private Panel {
+class MissingSignPanel {
   public:
-    MissingSignPanel(Form& form, SharedState& shared);
+    MissingSignPanel(Form& form, SharedState& shared, Tally& tally);
 
     void NewMissingSignQuestion();
 
@@ -44,12 +48,16 @@ class MissingSignPanel : private Panel {
         Label operation4     { form, { 344_px, 366_px, 196_px, 22_px }, "",          kPanelLine };
         Label encore_quatre  { form, { 549_px, 369_px,  70_px, 16_px }, "Continuer", kButton };
         UpDown fleche5       { form, { 318_px, 362_px,  22_px, 30_px }, { 0, 2 },    signe };
+        Answer sign          { signe, fleche5, MissingSignQuestion::SignText, "?" };
     } ui;
     // clang-format on
 
   private:
-    void fleche5_Change();
     void signe_Click();
 
+    Exercise exercise_;
+    SharedState& shared_;
     MissingSignQuestion question_{};
 };
+
+}  // namespace onze

@@ -2,6 +2,8 @@
 
 #include "support/number_text.h"
 
+namespace onze {
+
 MultipleQuestion MultipleQuestion::Draw(Random& random, int table) {
     random.Randomize();
     return random.Draw(2) == 0 ? DrawMultiple(random, table) : DrawOther(random, table);
@@ -58,77 +60,68 @@ std::string MultipleQuestion::ProductCorrection(bool right) const {
            kContinueLine;
 }
 
-MultiplePanel::MultiplePanel(Form& form, SharedState& shared) : Panel(shared), ui{form} {
+MultiplePanel::MultiplePanel(Form& form, SharedState& shared, Tally& tally)
+    : ui{form},
+      exercise_(shared.sounds, tally, ui.enonce2, ui.encore_deux, {&ui.factor, &ui.sum}),
+      shared_(shared) {
     ui.oui.on_click = [this] { oui_Click(); };
     ui.non.on_click = [this] { non_Click(); };
-    ui.fleche2.on_change = [this] { fleche2_Change(); };
-    ui.fleche3.on_change = [this] { fleche3_Change(); };
     ui.chiffre2.on_click = ui.chiffre3.on_click = [this] { chiffre2_Click(); };
     ui.encore_deux.on_click = [this] { NewMultipleQuestion(); };
 }
 
 void MultiplePanel::NewMultipleQuestion() {
-    const SilentArrows silent(sounds());
-    ui.fleche2.SetValue(0);
-    ui.fleche3.SetValue(0);
+    const SilentArrows silent(shared_.sounds);
+    for (Answer* answer : {&ui.factor, &ui.sum}) {
+        answer->Rewind();
+        answer->Close();
+    }
     SetAllVisible(true, {&ui.oui, &ui.non});
-    SetAllVisible(false,
-                  {&ui.chiffre2, &ui.operation2, &ui.fleche2, &ui.fleche3, &ui.chiffre3, &ui.encore_deux});
-    question_ = MultipleQuestion::Draw(shared().random, table());
+    SetAllVisible(false, {&ui.chiffre2, &ui.operation2, &ui.chiffre3, &ui.encore_deux});
+    question_ = MultipleQuestion::Draw(shared_.random, shared_.CurrentTable);
     ui.enonce2.SetCaption(question_.Text());
 }
 
 void MultiplePanel::oui_Click() {
+    using enum Step;
     SetAllVisible(false, {&ui.oui, &ui.non});
     if (question_.SumIsMultiple) {
         AskForProduct();
-        return;
+    } else {
+        exercise_.Correct(false, question_.AfterOui(), {kPlay, kCountVerdict, kTell, kCountExercise, kOffer});
     }
-    SoundAndCount(false);
-    ui.enonce2.SetCaption(question_.AfterOui());
-    CountExercise();
-    ui.encore_deux.Show();
 }
 
 void MultiplePanel::AskForProduct() {
-    sounds().PlayVictorySound();
+    shared_.sounds.PlayVictorySound();
     ui.enonce2.SetCaption(question_.AfterOui());
-    ui.chiffre2.SetCaption(kUnanswered);
-    ui.chiffre3.SetCaption(kUnanswered);
     ui.operation2.SetCaption(question_.ProductLine());
-    SetAllVisible(true, {&ui.chiffre2, &ui.operation2, &ui.fleche2, &ui.fleche3});
+    ui.factor.Begin();
+    SetAllVisible(true, {&ui.chiffre2, &ui.operation2});
     ui.chiffre3.SetLeft(ui.operation2.box().right() + 4);
     ui.fleche3.SetLeft(ui.operation2.box().right());
+    ui.sum.Begin();
     ui.chiffre3.Show();
 }
 
 void MultiplePanel::non_Click() {
-    CountExercise();
+    using enum Step;
+    const bool right = !question_.SumIsMultiple;
+    exercise_.CountExercise();
     SetAllVisible(false, {&ui.oui, &ui.non});
-    SoundAndCount(!question_.SumIsMultiple);
-    ui.enonce2.SetCaption(question_.AfterNon());
-    ui.encore_deux.Show();
-}
-
-void MultiplePanel::fleche2_Change() {
-    ShowNumber(ui.fleche2, ui.chiffre2);
-}
-
-void MultiplePanel::fleche3_Change() {
-    ShowNumber(ui.fleche3, ui.chiffre3);
+    exercise_.Correct(right, question_.AfterNon(), {kPlay, kCountVerdict, kTell, kOffer});
 }
 
 void MultiplePanel::chiffre2_Click() {
-    if (ui.encore_deux.visible()) return;
-    if (ui.chiffre2.caption() == kUnanswered || ui.chiffre3.caption() == kUnanswered) return;
-    CountExercise();
-    SetAllVisible(false, {&ui.fleche2, &ui.fleche3});
-    ui.encore_deux.Show();
-    const bool right = question_.IsRightProduct(Val(ui.chiffre2.caption()), Val(ui.chiffre3.caption()));
+    using enum Step;
+    if (!exercise_.AnswerGuard({&ui.factor, &ui.sum})) return;
+    const bool right = question_.IsRightProduct(*ui.factor.entered(), *ui.sum.entered());
+    const std::string text = question_.ProductCorrection(right);
     if (right) {
-        CountAndSound(right);
+        exercise_.Correct(right, text, {kCountExercise, kClose, kOffer, kCountVerdict, kPlay, kTell});
     } else {
-        SoundAndCount(right);
+        exercise_.Correct(right, text, {kCountExercise, kClose, kOffer, kPlay, kCountVerdict, kTell});
     }
-    ui.enonce2.SetCaption(question_.ProductCorrection(right));
 }
+
+}  // namespace onze

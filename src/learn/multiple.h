@@ -2,7 +2,11 @@
 
 #include <string>
 
-#include "learn/panel.h"
+#include "learn/looks.h"
+#include "stats/exercise.h"
+#include "support/number_text.h"
+
+namespace onze {
 
 // The sum's place begins right at the end of the product line; its frame keeps a little off the "=".
 inline const LabelStyle kSumAnswer = [] {
@@ -35,12 +39,12 @@ struct MultipleQuestion {
 };
 
 // The second panel of the learning screen.
-class MultiplePanel : private Panel {
+class MultiplePanel {
   public:
-    MultiplePanel(Form& form, SharedState& shared);
+    MultiplePanel(Form& form, SharedState& shared, Tally& tally);
 
     // The sum is entered in steps of the table.
-    void StepByTable() { ui.fleche3.SetIncrement(table()); }
+    void StepByTable() { ui.fleche3.SetIncrement(shared_.CurrentTable); }
     void NewMultipleQuestion();
 
     // The arrows stand below their answers: the sum's place follows the product line before it.
@@ -57,16 +61,20 @@ class MultiplePanel : private Panel {
         Label encore_deux    { form, { 549_px, 236_px,  70_px, 16_px }, "Continuer", kButton };
         UpDown fleche2       { form, { 246_px, 227_px,  22_px, 30_px }, { 0, 50 },   chiffre2 };
         UpDown fleche3       { form, { 470_px, 227_px,  22_px, 30_px }, { 0, 1000 }, chiffre3 };
+        Answer factor        { chiffre2, fleche2, Digits, kUnanswered };
+        Answer sum           { chiffre3, fleche3, Digits, kUnanswered };
     } ui;
     // clang-format on
 
   private:
     void oui_Click();
     void non_Click();
-    void fleche2_Change();
-    void fleche3_Change();
     void chiffre2_Click();
     void AskForProduct();
 
+    Exercise exercise_;
+    SharedState& shared_;
     MultipleQuestion question_{};
 };
+
+}  // namespace onze

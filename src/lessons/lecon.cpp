@@ -2,6 +2,8 @@
 
 #include "forms/look.h"
 
+namespace onze {
+
 namespace {
 
 constexpr Color kDarkRed{192, 0, 0};
@@ -75,3 +77,9 @@ Leçon::Leçon(Stage& stage, SharedState& shared, Form& depart)
     // clang-format on
     retour.on_click = [this, &shared, &depart] { ReturnToStart(shared.sounds, depart, form); };
 }
+
+void Leçon::Prepare() {
+    l9.SetCaption("342\rX  57");
+}
+
+}  // namespace onze

@@ -4,10 +4,15 @@
 #include "forms/label.h"
 #include "stats/shared_state.h"
 
+namespace onze {
+
 // The reminders about multiplication.
 class Leçon {
   public:
     Leçon(Stage& stage, SharedState& shared, Form& depart);
+
+    // Writes the worked example.
+    void Prepare();
 
     Form form;
     Line Line1, Line2, Line3, Line4, Line5;
@@ -16,3 +21,5 @@ class Leçon {
     Label l10;
     Label retour;
 };
+
+}  // namespace onze

@@ -1,5 +1,7 @@
 #include "pythagoras/blinker.h"
 
+namespace onze {
+
 namespace {
 
 constexpr int kFlashes = 10;
@@ -45,3 +47,5 @@ void Blinker::End() {
     // The blink before this one has waited long enough meanwhile.
     if (!blinks_.empty()) timer_Timer();
 }
+
+}  // namespace onze

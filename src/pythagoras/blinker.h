@@ -5,6 +5,8 @@
 
 #include "forms/timer.h"
 
+namespace onze {
+
 // Blinks ten times, whether its screen is shown or not: on_flash, 50 ms later on_dark, then 150 ms of dark;
 // at the end on_end. A blink that begins while others run goes first: it runs to its end, then the one
 // before it goes on at once with what it had left.
@@ -31,3 +33,5 @@ class Blinker {
     Timer timer_;
     std::vector<Blink> blinks_;  // the newest last
 };
+
+}  // namespace onze

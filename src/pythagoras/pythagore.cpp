@@ -3,6 +3,8 @@
 #include "forms/look.h"
 #include "support/number_text.h"
 
+namespace onze {
+
 namespace {
 
 constexpr int kNumbers = 11;
@@ -94,6 +96,10 @@ Pythagore::Pythagore(Stage& stage, SharedState& shared, Form& depart)
     blinker_.on_end = [this] { EnableNumbers(); };
 }
 
+void Pythagore::Prepare() {
+    operation.SetCaption("8 que multiplie 7 = 56");
+}
+
 void Pythagore::colonne_Click(int i) {
     PlayClick();
     cachehaut.SetHeight((i + 2) * kPitch);
@@ -148,3 +154,5 @@ void Pythagore::ShowBars(bool visible) {
     cachehaut.SetVisible(visible);
     cachelong.SetVisible(visible);
 }
+
+}  // namespace onze

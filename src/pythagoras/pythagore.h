@@ -6,11 +6,16 @@
 #include "pythagoras/blinker.h"
 #include "stats/shared_state.h"
 
+namespace onze {
+
 // The Pythagoras table: a number of the first column and one of the first row, in either order, make a
 // multiplication, and two bars blink that cross on its product.
 class Pythagore {
   public:
     Pythagore(Stage& stage, SharedState& shared, Form& depart);
+
+    // The example in words that each opening begins with; the choice of numbers goes on as it was left.
+    void Prepare();
 
     Form form;
     Label cachehaut, cachelong;           // the bars, under the numbers
@@ -37,3 +42,5 @@ class Pythagore {
     int PythagoreFirst = 0;
     int PythagoreSecond = 0;
 };
+
+}  // namespace onze

@@ -5,6 +5,8 @@
 
 #include "support/run_time_error.h"
 
+namespace onze {
+
 namespace {
 
 constexpr std::uint32_t kWidthAndHeight = 0x180000;
@@ -14,9 +16,9 @@ std::uint32_t RoundHalfToEven(float value) {
 }
 
 // Walks every mode of the display, so that the record ends up with what the last one left in it.
-void WalkModes(Platform& platform, DisplayModeRecord& record) {
+void WalkModes(Desktop& desktop, DisplayModeRecord& record) {
     std::int32_t mode = 0;
-    while ((platform.EnumDisplaySettingsA(mode, record) & 0xFFFF) != 0) {
+    while ((desktop.EnumDisplaySettingsA(mode, record) & 0xFFFF) != 0) {
         if (mode == std::numeric_limits<std::int32_t>::max()) {
             throw RunTimeError("Dépassement de capacité du numéro de mode d'affichage.");
         }
@@ -27,9 +29,11 @@ void WalkModes(Platform& platform, DisplayModeRecord& record) {
 }  // namespace
 
 void DisplayMode::SetDisplayResolution(float width, float height) {
-    WalkModes(platform_, record_);
+    WalkModes(desktop_, record_);
     record_.dmFields = kWidthAndHeight;
     record_.dmPelsWidth = RoundHalfToEven(width);
     record_.dmPelsHeight = RoundHalfToEven(height);
-    platform_.ChangeDisplaySettingsA(record_, 0);
+    desktop_.ChangeDisplaySettingsA(record_, 0);
 }
+
+}  // namespace onze

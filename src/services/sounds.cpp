@@ -1,9 +1,10 @@
 #include "services/sounds.h"
 
 #include "forms/form.h"
-#include "forms/platform.h"
-#include "services/data_folder.h"
+#include "services/sound_player.h"
 #include "support/number_text.h"
+
+namespace onze {
 
 namespace {
 
@@ -41,8 +42,8 @@ void Sounds::PlayVerdictSound(bool right) {
 }
 
 void Sounds::Play(const std::string& name) {
-    platform_.StopSound();
-    platform_.StartSound(DataFile(platform_, name));
+    player_.Stop();
+    player_.Start(name);
 }
 
 void ReturnToStart(Sounds& sounds, Form& start, Form& left) {
@@ -50,3 +51,5 @@ void ReturnToStart(Sounds& sounds, Form& start, Form& left) {
     start.Show();
     left.Hide();
 }
+
+}  // namespace onze

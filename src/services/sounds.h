@@ -3,14 +3,16 @@
 #include <string>
 #include <string_view>
 
+namespace onze {
+
 class Form;
-class Platform;
+class SoundPlayer;
 
 // The program's one sound player: at most one sound is heard, each new one cuts off the one before. None of
 // its routines fails, whatever the sound files are.
 class Sounds {
   public:
-    explicit Sounds(Platform& platform) : platform_(platform) {}
+    explicit Sounds(SoundPlayer& player) : player_(player) {}
 
     // The next of the ten clicks. A closed gate keeps it silent, but the click is used up all the same.
     void PlayClickSound();
@@ -27,7 +29,7 @@ class Sounds {
   private:
     void Play(const std::string& name);
 
-    Platform& platform_;
+    SoundPlayer& player_;
     int ClickSoundCounter = 0;
     int VictorySoundCounter = 0;
     int DefeatSoundCounter = 0;
@@ -47,3 +49,5 @@ class SilentArrows {
 
 // Leaves a screen for the start screen, with its sound.
 void ReturnToStart(Sounds& sounds, Form& start, Form& left);
+
+}  // namespace onze

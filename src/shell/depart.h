@@ -2,15 +2,30 @@
 
 #include <string>
 
-#include "shell/screens.h"
+#include "forms/control_array.h"
+#include "forms/form.h"
+#include "forms/label.h"
+#include "forms/timer.h"
+#include "services/calendar.h"
+#include "stats/shared_state.h"
+
+namespace onze {
+
+struct Screens;
 
 // The start screen: its prompts, its clock, and the way to every other screen. Quitting is the program's.
 class Depart {
   public:
-    Depart(Platform& platform, Screens& screens, SharedState& shared);
+    Depart(Stage& stage, const Calendar& calendar, SharedState& shared, Screens& screens);
 
     // Prepares what the screen shows at start-up: date, time, the state of the first prompt.
     void Prepare();
+
+    Form form;
+    ControlArray<Image> chiffre;  // member i chooses the table i + 2
+    Image pytha, apprendre_leçon, exos, Image_bilan;
+    Label label_table, Label1, Label2, Label3, bilan_utilisation, heure, dates, fin;
+    Timer timer;
 
   private:
     // Names the prompt now shown. Two items of one state do not replace each other's prompt.
@@ -25,7 +40,7 @@ class Depart {
     };
 
     void WireClicks();
-    void WireHover();
+    void WirePrompts();
     // Tells what a click would do, unless the prompt shown is already one of this state.
     void Hover(Prompt state, const std::string& text);
 
@@ -38,9 +53,10 @@ class Depart {
     void timer_Timer();
     void Open(Form& screen);
 
-    Platform& platform_;
-    Screens& screens_;
-    DepartUi& ui_;
+    const Calendar& calendar_;
     SharedState& shared_;
+    Screens& screens_;
     Prompt HoverState = Prompt::kChoose;
 };
+
+}  // namespace onze

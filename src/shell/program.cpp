@@ -1,59 +1,126 @@
 #include "shell/program.h"
 
-#include "forms/platform.h"
-#include "services/data_folder.h"
-#include "services/screen_pictures.h"
+#include "support/run_time_error.h"
+
+namespace onze {
 
 namespace {
 
 constexpr std::uint32_t kHideWindow = 0x80;
 constexpr std::uint32_t kShowWindow = 0x40;
-constexpr std::string_view kCountersFile = "18";
-
-// Without a taskbar the call gets no window and does nothing.
-void SetTaskbar(Platform& platform, std::uint32_t flags) {
-    const Platform::WindowHandle taskbar = platform.FindWindowA("Shell_traywnd", "");
-    platform.SetWindowPos(taskbar, 0, 0, 0, 0, 0, flags);
-}
+constexpr int kNotch = 120;
 
 }  // namespace
 
-Program::Program(Platform& platform, Random& random)
-    : platform_(platform),
-      stage_(platform),
-      sounds_(platform),
-      display_(platform),
+Program::Program(const Host& host, Random& random)
+    : host_(host),
+      stage_(host.clock, host.text_measure),
+      sounds_(host.sound_player),
+      display_(host.desktop),
       shared_{.sounds = sounds_, .random = random, .counters = record_.counters},
-      screens_(stage_, shared_),
-      depart_(platform, screens_, shared_) {
-    screens_.depart.fin.on_click = [this] { fin_Click(); };
+      view_(kPageWidth / kTwipsPerPixel, kPageHeight / kTwipsPerPixel) {}
+
+Reaction Program::Take(const Event& event) {
+    return React([&] { std::visit([this](const auto& happened) { On(happened); }, event); });
 }
 
-void Program::Load() {
-    record_ = LoadUsageRecord(DataFile(platform_, kCountersFile));
-    LoadPictures();
-    depart_.Prepare();
-    screens_.leçon.l9.SetCaption("342\rX  57");
-    SavedScreenWidth = static_cast<float>(platform_.ScreenWidthInPixels());
-    SavedScreenHeight = static_cast<float>(platform_.ScreenHeightInPixels());
-    SetTaskbar(platform_, kHideWindow);
+Reaction Program::Paint(Canvas& canvas, const PixelBox& part) {
+    return React([&] { stage_.Paint(canvas, view_.Around(part)); });
+}
+
+template <class Step>
+Reaction Program::React(Step step) {
+    if (state_ == Reaction::State::kRuns) {
+        try {
+            step();
+        } catch (const RunTimeError& error) {
+            Fail(error.what());
+        } catch (const std::exception& error) {
+            Fail(std::string("Erreur inattendue : ") + error.what());
+        }
+    }
+    Reaction reaction;
+    reaction.state = state_;
+    reaction.failure = failure_;
+    if (state_ != Reaction::State::kRuns) return reaction;
+    const Rect damage = stage_.TakeDamage();
+    if (!damage.empty()) reaction.repaint = view_.Around(damage);
+    reaction.hand = stage_.ReactsToClickAt(pointer_);
+    reaction.wake_at = stage_.NextDue();
+    reaction.say = stage_.TakeMessages();
+    return reaction;
+}
+
+void Program::Fail(std::string text) {
+    state_ = Reaction::State::kFailed;
+    failure_ = std::move(text);
+}
+
+void Program::On(const event::Started&) {
+    record_ = LoadUsageRecord(host_.files);
+    MakeScreens();
+    screens_->depart.Prepare();
+    screens_->leçon.Prepare();
+    SavedScreenWidth = static_cast<float>(host_.desktop.ScreenWidthInPixels());
+    SavedScreenHeight = static_cast<float>(host_.desktop.ScreenHeightInPixels());
+    SetTaskbar(kHideWindow);
     display_.SetDisplayResolution(640, 480);
-    screens_.depart.form.Show();
+    screens_->depart.form.Show();
 }
 
-void Program::LoadPictures() {
-    LoadScreenPictures(platform_, screens_.apprendre.form, "11");
-    LoadScreenPictures(platform_, screens_.bilan.form, "12");
-    LoadScreenPictures(platform_, screens_.exercices.form, "13");
-    LoadScreenPictures(platform_, screens_.leçon.form, "14");
-    LoadScreenPictures(platform_, screens_.depart.form, "15");
-    LoadScreenPictures(platform_, screens_.pythagore.form, "16");
+void Program::MakeScreens() {
+    const ScreenPictures pictures(host_.files, host_.pictures);
+    screens_.emplace(stage_, host_, pictures, shared_);
+    LoadScreenPictures(pictures, screens_->apprendre.form, "11");
+    LoadScreenPictures(pictures, screens_->bilan.form, "12");
+    LoadScreenPictures(pictures, screens_->exercices.form, "13");
+    LoadScreenPictures(pictures, screens_->leçon.form, "14");
+    LoadScreenPictures(pictures, screens_->depart.form, "15");
+    LoadScreenPictures(pictures, screens_->pythagore.form, "16");
+    screens_->depart.fin.on_click = [this] { fin_Click(); };
+}
+
+void Program::On(const event::WindowResized& resized) {
+    view_ = PageView(resized.width, resized.height);
+    stage_.DamageAll();
+}
+
+void Program::On(const event::PointerMoved& moved) {
+    pointer_ = view_.ToPage(moved.at);
+    stage_.Move(pointer_);
+}
+
+void Program::On(const event::PointerPressed& pressed) {
+    pointer_ = view_.ToPage(pressed.at);
+    stage_.Press(pointer_, {.pressed_at = pressed.time,
+                            .time = pressed.double_click_time,
+                            .distance = view_.LengthToPage(pressed.double_click_distance)});
+}
+
+void Program::On(const event::PointerReleased& released) {
+    pointer_ = view_.ToPage(released.at);
+    stage_.Release(pointer_);
+}
+
+void Program::On(const event::WheelTurned& turned) {
+    wheel_turned_ += turned.turn;
+    const int notches = wheel_turned_ / kNotch;
+    wheel_turned_ %= kNotch;
+    if (notches != 0) stage_.Wheel(view_.ToPage(turned.at), notches);
+}
+
+// Without a taskbar the call gets no window and does nothing.
+void Program::SetTaskbar(std::uint32_t flags) {
+    const Desktop::WindowHandle taskbar = host_.desktop.FindWindowA("Shell_traywnd", "");
+    host_.desktop.SetWindowPos(taskbar, 0, 0, 0, 0, 0, flags);
 }
 
 void Program::fin_Click() {
     sounds_.PlayNavigationSound("5");
-    SaveUsageRecord(platform_, DataFile(platform_, kCountersFile), record_);
+    SaveUsageRecord(host_.files, record_);
     display_.SetDisplayResolution(SavedScreenWidth, SavedScreenHeight);
-    SetTaskbar(platform_, kShowWindow);
-    platform_.EndProgram();
+    SetTaskbar(kShowWindow);
+    state_ = Reaction::State::kEnded;
 }
+
+}  // namespace onze

@@ -1,37 +1,66 @@
 #pragma once
 
+#include <optional>
+
 #include "forms/stage.h"
 #include "services/display_mode.h"
-#include "shell/depart.h"
+#include "services/sounds.h"
+#include "shell/event.h"
+#include "shell/host.h"
+#include "shell/screens.h"
 #include "stats/usage_record.h"
 
-// The program from start-up to quit.
+namespace onze {
+
+// The program from start-up to quit, and its front door: nothing else comes in, and no error gets out.
 class Program {
   public:
-    // Throws RunTimeError when the strip of digits cannot be read.
-    Program(Platform& platform, Random& random);
+    Program(const Host& host, Random& random);
 
-    // Start-up; the start screen is shown when it returns. Throws RunTimeError, the taskbar and the display
-    // being untouched, when the counters or a picture cannot be read.
-    void Load();
+    // Once the program has ended or failed nothing changes any more.
+    Reaction Take(const Event& event);
+    // Paints a part of the window, whose page lies as view() tells.
+    Reaction Paint(Canvas& canvas, const PixelBox& part);
+    const PageView& view() const { return view_; }
 
+    // For whoever looks inside. The screens exist once the start succeeded.
     Stage& stage() { return stage_; }
     const Stage& stage() const { return stage_; }
+    Screens& screens() { return *screens_; }
     const Counters& counters() const { return record_.counters; }
-    Screens& screens() { return screens_; }
 
   private:
-    void LoadPictures();
+    void On(const event::Started&);
+    void On(const event::WindowResized& resized);
+    void On(const event::TimePassed&) { stage_.RunDue(); }
+    void On(const event::PointerMoved& moved);
+    void On(const event::PointerPressed& pressed);
+    void On(const event::PointerReleased& released);
+    void On(const event::PointerLost&) { stage_.CancelPress(); }
+    void On(const event::WheelTurned& turned);
+
+    // Takes a step while the program runs; the one place that catches.
+    template <class Step>
+    Reaction React(Step step);
+    void Fail(std::string text);
+    void MakeScreens();
+    void SetTaskbar(std::uint32_t flags);
     void fin_Click();
 
-    Platform& platform_;
+    Host host_;
     Stage stage_;
     Sounds sounds_;
     DisplayMode display_;
     UsageRecord record_;
     SharedState shared_;
-    Screens screens_;
-    Depart depart_;
+    std::optional<Screens> screens_;
+    PageView view_;
+    Point pointer_;
+    int wheel_turned_ = 0;  // since the last whole notch
+    Reaction::State state_ = Reaction::State::kRuns;
+    std::string failure_;
     float SavedScreenWidth = 0;
     float SavedScreenHeight = 0;
 };
+
+}  // namespace onze

@@ -3,6 +3,8 @@
 #include "forms/look.h"
 #include "support/number_text.h"
 
+namespace onze {
+
 namespace {
 
 const LabelStyle kHeading{
@@ -50,7 +52,7 @@ Bilan::Bilan(Stage& stage, SharedState& shared, Form& depart)
     retour.on_click = [this, &depart] { ReturnToStart(shared_.sounds, depart, form); };
 }
 
-void Bilan::Fill() {
+void Bilan::Prepare() {
     const Counters& counters = shared_.counters;
     for (int i = 0; i < kStoredTables; ++i) {
         const auto table = static_cast<std::size_t>(i);
@@ -70,3 +72,5 @@ void Bilan::Fill() {
     pour_lecons.SetCaption("--->  La page des rappels sur la multiplication a été consultée" +
                            Str(counters.LessonConsultations.value()) + " fois.");
 }
+
+}  // namespace onze

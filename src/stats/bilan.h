@@ -5,13 +5,15 @@
 #include "forms/label.h"
 #include "stats/shared_state.h"
 
+namespace onze {
+
 // The usage report. Its background shows the number of each row's table.
 class Bilan {
   public:
     Bilan(Stage& stage, SharedState& shared, Form& depart);
 
     // Fills every value from the counters.
-    void Fill();
+    void Prepare();
 
     Form form;
     Label Label1, Label2, Label3, Label4, Label5, Label6;
@@ -24,3 +26,5 @@ class Bilan {
   private:
     SharedState& shared_;
 };
+
+}  // namespace onze

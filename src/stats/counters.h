@@ -7,6 +7,8 @@
 
 #include "support/counter.h"
 
+namespace onze {
+
 // How much each table and each screen was used, and with what success. The arrays are indexed by table - 2;
 // index 11 exists but is never stored or shown.
 struct Counters {
@@ -35,3 +37,5 @@ inline void Raise(Counters::PerTable& counters, int table, const char* name) {
     Raise(counters.at(static_cast<std::size_t>(index)),
           std::string(name) + "(" + std::to_string(index) + ")");
 }
+
+}  // namespace onze

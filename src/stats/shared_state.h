@@ -6,6 +6,8 @@
 #include "stats/counters.h"
 #include "support/random.h"
 
+namespace onze {
+
 // What the screens share.
 struct SharedState {
     Sounds& sounds;
@@ -15,3 +17,5 @@ struct SharedState {
     int MembershipAnswer = 0;
     std::string NoteName{};  // scratch text of the report and of the exercises screen
 };
+
+}  // namespace onze

@@ -1,10 +1,8 @@
 #include "stats/usage_record.h"
 
-#include <array>
-#include <fstream>
-
-#include "forms/platform.h"
 #include "support/run_time_error.h"
+
+namespace onze {
 
 namespace {
 
@@ -100,17 +98,7 @@ class Writer {
     std::vector<std::byte> bytes_;
 };
 
-std::vector<std::byte> ReadWhole(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    std::vector<std::byte> bytes;
-    std::array<char, 4096> block{};
-    while (stream.read(block.data(), block.size()), stream.gcount() > 0) {
-        const auto read = std::as_bytes(std::span(block).first(static_cast<std::size_t>(stream.gcount())));
-        bytes.insert(bytes.end(), read.begin(), read.end());
-    }
-    if (!stream.eof()) throw FileError("Fichier des compteurs introuvable ou illisible", file);
-    return bytes;
-}
+constexpr std::string_view kFile = "18";
 
 }  // namespace
 
@@ -127,18 +115,20 @@ UsageRecord FromBytes(std::span<const std::byte> bytes) {
     return record;
 }
 
-UsageRecord LoadUsageRecord(const std::filesystem::path& file) {
-    return FromBytes(ReadWhole(file));
+UsageRecord LoadUsageRecord(DataFiles& files) {
+    const auto bytes = files.Read(kFile);
+    if (!bytes) throw FileError("Fichier des compteurs introuvable ou illisible", files.PlaceOf(kFile));
+    return FromBytes(*bytes);
 }
 
-void SaveUsageRecord(Platform& platform, const std::filesystem::path& file, UsageRecord& record) {
+void SaveUsageRecord(DataFiles& files, UsageRecord& record) {
     record.reserved_value = TaggedNumber::Integer(1);
     std::vector<std::byte> bytes = ToBytes(record);
-    if (std::error_code ignored; std::filesystem::exists(file, ignored)) {
-        const std::vector<std::byte> old = ReadWhole(file);
-        if (old.size() > bytes.size()) {
-            bytes.insert(bytes.end(), old.begin() + static_cast<std::ptrdiff_t>(bytes.size()), old.end());
-        }
+    const auto old = files.Read(kFile);
+    if (old && old->size() > bytes.size()) {
+        bytes.insert(bytes.end(), old->begin() + static_cast<std::ptrdiff_t>(bytes.size()), old->end());
     }
-    platform.ReplaceContent(file, bytes);
+    if (!files.Replace(kFile, bytes)) throw FileError("Enregistrement impossible", files.PlaceOf(kFile));
 }
+
+}  // namespace onze

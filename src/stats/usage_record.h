@@ -1,14 +1,14 @@
 #pragma once
 
 #include <cstddef>
-#include <filesystem>
 #include <span>
 #include <string>
 #include <vector>
 
+#include "services/data_files.h"
 #include "stats/counters.h"
 
-class Platform;
+namespace onze {
 
 // The counters and the values that lead them in their file, which are carried along and never shown.
 struct UsageRecord {
@@ -24,7 +24,10 @@ struct UsageRecord {
 std::vector<std::byte> ToBytes(const UsageRecord& record);
 UsageRecord FromBytes(std::span<const std::byte> bytes);
 
-// The file of the counters. Both throw RunTimeError, naming the file, when it cannot be read or written.
-UsageRecord LoadUsageRecord(const std::filesystem::path& file);
+// The file of the counters, "18". Both throw RunTimeError, naming the file, when it cannot be read or
+// written.
+UsageRecord LoadUsageRecord(DataFiles& files);
 // Marks the record as saved once. Bytes of the old file past the end of the record are kept.
-void SaveUsageRecord(Platform& platform, const std::filesystem::path& file, UsageRecord& record);
+void SaveUsageRecord(DataFiles& files, UsageRecord& record);
+
+}  // namespace onze

@@ -1,5 +1,7 @@
 #include "support/capital.h"
 
+namespace onze {
+
 namespace {
 
 using Letter = unsigned int;
@@ -34,3 +36,5 @@ std::string WithCapital(std::string text) {
     }
     return text;
 }
+
+}  // namespace onze

@@ -5,6 +5,8 @@
 
 #include "support/run_time_error.h"
 
+namespace onze {
+
 namespace {
 
 [[noreturn]] void ThrowOverflow(std::string_view name) {
@@ -24,3 +26,5 @@ void TaggedNumber::Raise(std::string_view name) {
     const bool fits = value_ <= std::numeric_limits<std::int16_t>::max();
     tag_ = tag_ == Tag::kLong || !fits ? Tag::kLong : Tag::kInteger;
 }
+
+}  // namespace onze

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string_view>
 
+namespace onze {
+
 // Adds 1 to a 16-bit counter. Throws RunTimeError, naming the counter and leaving it as it was, past 32,767.
 void Raise(std::int16_t& counter, std::string_view name);
 
@@ -31,3 +33,5 @@ class TaggedNumber {
     Tag tag_ = Tag::kInteger;
     std::int32_t value_ = 0;
 };
+
+}  // namespace onze

@@ -1,5 +1,7 @@
 #include "support/number_text.h"
 
+namespace onze {
+
 std::string Str(long long number) {
     return number < 0 ? Digits(number) : " " + Digits(number);
 }
@@ -27,3 +29,5 @@ int Val(std::string_view text) {
     }
     return negative ? -value : value;
 }
+
+}  // namespace onze

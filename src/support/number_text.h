@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+namespace onze {
+
 // The number as it is spliced into questions and messages: one blank stands for the plus sign (" 7", "-3").
 std::string Str(long long number);
 
@@ -14,3 +16,5 @@ std::string Digits(long long number);
 // other character that cannot belong to the number, and a text without any number gives 0. Numbers of more
 // than nine digits are not read further.
 int Val(std::string_view text);
+
+}  // namespace onze

@@ -2,6 +2,8 @@
 
 #include <chrono>
 
+namespace onze {
+
 std::int64_t ClockRandom::SystemClock() {
     return std::chrono::system_clock::now().time_since_epoch().count();
 }
@@ -17,3 +19,5 @@ void ClockRandom::Randomize() {
 int ClockRandom::Draw(int bound) {
     return std::uniform_int_distribution<int>(0, bound - 1)(engine_);
 }
+
+}  // namespace onze

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <random>
 
+namespace onze {
+
 // The source of all draws. Draw(k) + c is a whole number from c to c + k - 1.
 class Random {
   public:
@@ -29,3 +31,5 @@ class ClockRandom final : public Random {
     std::uint32_t reseedings_ = 0;
     std::minstd_rand engine_;
 };
+
+}  // namespace onze

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <string_view>
 
+namespace onze {
+
 namespace {
 
 constexpr std::string_view kPngStart = "\x89PNG\r\n\x1a\n";
@@ -30,3 +32,5 @@ bool HasPngEnd(std::span<const std::byte> file) {
     }
     return false;
 }
+
+}  // namespace onze

@@ -4,6 +4,8 @@
 #include <span>
 #include <vector>
 
+namespace onze {
+
 // Whether a file is a PNG file, and whether such a file has its end. What follows the end does not matter.
 bool IsPng(std::span<const std::byte> file);
 bool HasPngEnd(std::span<const std::byte> file);
@@ -22,3 +24,5 @@ auto DecodeWhole(std::span<const std::byte> file, Decode decode) {
     const Pointer again = decode(std::span<const std::byte>(longer));
     return again && *again == *picture ? picture : Pointer();
 }
+
+}  // namespace onze

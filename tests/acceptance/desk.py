@@ -21,7 +21,6 @@ class Desk:
 
     SCALE = WIDTH / 640  # of the page
     SEPARATOR = "/"  # in file names
-    SAVE_FAILED = "Enregistrement impossible"
     AT_REST = IN_USE = "as it always is"
     starter = AS_A_PUPIL
 

@@ -149,7 +149,7 @@ class Faults(Installed):
         with self.started() as program:
             self.file.chmod(0o444)
             self.file.parent.chmod(0o555)
-            self.check_run_ends(program, [at.QUIT], self.desk.SAVE_FAILED, f"datas{self.desk.SEPARATOR}18 »")
+            self.check_run_ends(program, [at.QUIT], "Enregistrement impossible", f"datas{self.desk.SEPARATOR}18 »")
 
     def test_a_full_counter_ends_the_run(self):
         consultations, exercises, *_ = counters.of_table(7)

@@ -26,7 +26,6 @@ class WineDesk(Desk):
 
     SCALE = 1
     SEPARATOR = "\\"
-    SAVE_FAILED = "Fichier impossible à écrire"
     AT_REST, IN_USE = f"{WIDTH}x{HEIGHT} with taskbar", "640x480 without taskbar"
     starter = [*AS_A_PUPIL, WINE]
 

@@ -2,6 +2,8 @@
 
 #include "support/pupil.h"
 
+namespace onze {
+
 namespace {
 
 TEST(Exercices, ArrowsRunThroughTheirValues) {
@@ -22,3 +24,5 @@ TEST(Exercices, ArrowsRunThroughTheirValues) {
 }
 
 }  // namespace
+
+}  // namespace onze

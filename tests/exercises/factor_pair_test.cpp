@@ -1,10 +1,12 @@
 #include "support/exercise.h"
 
+namespace onze {
+
 namespace {
 
-Exercise FactorPair(Screens& screens) {
+ExerciseCase FactorPair(Screens& screens) {
     const auto& ui = screens.exercices.factor_pair.ui;
-    Exercise exercise{screens.exercices.form, 2, ui.enonce3, ui.flech4, ui.texte2, ui.encor_trois, {}};
+    ExerciseCase exercise{screens.exercices.form, 2, ui.enonce3, ui.flech4, ui.texte2, ui.encor_trois, {}};
     exercise.check = [&ui] {
         if (!ui.chiffre5.visible()) return;
         EXPECT_EQ(ui.chiffre5.box().left, ui.enonce3.box().right() + 3_px);
@@ -49,3 +51,5 @@ Exercise FactorPair(Screens& screens) {
 INSTANTIATE_TEST_SUITE_P(FactorPair, ExerciseTest, testing::Values(FactorPair));
 
 }  // namespace
+
+}  // namespace onze

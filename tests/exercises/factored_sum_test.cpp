@@ -1,10 +1,12 @@
 #include "support/exercise.h"
 
+namespace onze {
+
 namespace {
 
-Exercise FactoredSum(Screens& screens) {
+ExerciseCase FactoredSum(Screens& screens) {
     const auto& ui = screens.exercices.factored_sum.ui;
-    Exercise exercise{screens.exercices.form, 4, ui.enonce5, ui.flech7, ui.texte4, ui.encor_cinq, {}};
+    ExerciseCase exercise{screens.exercices.form, 4, ui.enonce5, ui.flech7, ui.texte4, ui.encor_cinq, {}};
     const struct {
         Draws draws;
         std::string question;
@@ -40,3 +42,5 @@ Exercise FactoredSum(Screens& screens) {
 INSTANTIATE_TEST_SUITE_P(FactoredSum, ExerciseTest, testing::Values(FactoredSum));
 
 }  // namespace
+
+}  // namespace onze

@@ -1,10 +1,12 @@
 #include "support/exercise.h"
 
+namespace onze {
+
 namespace {
 
-Exercise Membership(Screens& screens) {
+ExerciseCase Membership(Screens& screens) {
     const auto& ui = screens.exercices.membership.ui;
-    Exercise exercise{screens.exercices.form, 0, ui.chiffre1, ui.flech1, ui.enonce1, ui.encor_un, {}};
+    ExerciseCase exercise{screens.exercices.form, 0, ui.chiffre1, ui.flech1, ui.enonce1, ui.encor_un, {}};
     exercise.check = [&ui] { EXPECT_EQ(ui.lab.box().right(), ui.chiffre2.box().left); };
     const struct {
         Draws draws;
@@ -45,3 +47,5 @@ Exercise Membership(Screens& screens) {
 INSTANTIATE_TEST_SUITE_P(Membership, ExerciseTest, testing::Values(Membership));
 
 }  // namespace
+
+}  // namespace onze

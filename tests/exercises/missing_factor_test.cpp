@@ -1,10 +1,12 @@
 #include "support/exercise.h"
 
+namespace onze {
+
 namespace {
 
-Exercise MissingFactor(Screens& screens) {
+ExerciseCase MissingFactor(Screens& screens) {
     const auto& ui = screens.exercices.missing_factor.ui;
-    Exercise exercise{screens.exercices.form, 3, ui.chiffre6, ui.flech5, ui.texte3, ui.encor_quatre, {}};
+    ExerciseCase exercise{screens.exercices.form, 3, ui.chiffre6, ui.flech5, ui.texte3, ui.encor_quatre, {}};
     const struct {
         Draws draws;
         std::string question;
@@ -27,3 +29,5 @@ Exercise MissingFactor(Screens& screens) {
 INSTANTIATE_TEST_SUITE_P(MissingFactor, ExerciseTest, testing::Values(MissingFactor));
 
 }  // namespace
+
+}  // namespace onze

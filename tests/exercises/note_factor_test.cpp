@@ -1,10 +1,12 @@
 #include "support/exercise.h"
 
+namespace onze {
+
 namespace {
 
-Exercise NoteFactor(Screens& screens) {
+ExerciseCase NoteFactor(Screens& screens) {
     const auto& ui = screens.exercices.note_factor.ui;
-    Exercise exercise{screens.exercices.form, 5, ui.texte5, ui.flech8, ui.texte5, ui.encor_six, {}};
+    ExerciseCase exercise{screens.exercices.form, 5, ui.texte5, ui.flech8, ui.texte5, ui.encor_six, {}};
     const struct {
         Draws draws;
         std::string question;
@@ -33,3 +35,5 @@ Exercise NoteFactor(Screens& screens) {
 INSTANTIATE_TEST_SUITE_P(NoteFactor, ExerciseTest, testing::Values(NoteFactor));
 
 }  // namespace
+
+}  // namespace onze

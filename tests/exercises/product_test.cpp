@@ -1,10 +1,12 @@
 #include "support/exercise.h"
 
+namespace onze {
+
 namespace {
 
-Exercise Product(Screens& screens) {
+ExerciseCase Product(Screens& screens) {
     const auto& ui = screens.exercices.product.ui;
-    Exercise exercise{screens.exercices.form, 1, ui.enonce2, ui.flech2, ui.texte, ui.encor_deux, {}};
+    ExerciseCase exercise{screens.exercices.form, 1, ui.enonce2, ui.flech2, ui.texte, ui.encor_deux, {}};
     const struct {
         Draws draws;
         std::string question;
@@ -28,3 +30,5 @@ Exercise Product(Screens& screens) {
 INSTANTIATE_TEST_SUITE_P(Product, ExerciseTest, testing::Values(Product));
 
 }  // namespace
+
+}  // namespace onze

@@ -5,6 +5,8 @@
 #include "forms/stage.h"
 #include "support/writing_canvas.h"
 
+namespace onze {
+
 namespace {
 
 // In the tests a letter is half as wide as the font is high, and a line 6/5 as high.
@@ -24,8 +26,8 @@ class LabelTest : public testing::Test {
         return "text " + place + " high " + std::to_string(height) + " in 0,0,0 |" + text + "|\n";
     }
 
-    HeadlessPlatform platform;
-    Stage stage{platform};
+    HeadlessHost host;
+    Stage stage{host, host};
     Form form{stage};
 };
 
@@ -59,8 +61,8 @@ TEST_F(LabelTest, OverhangLeavesTheBoxButNotItsReach) {
     const Label label(form, {1000, 0, 400, 120}, "ABCDEFGHIJKLMNOP",
                       {.font = {100}, .align = Align::kCenter, .overhang = {200, 60, 200, 0}});
     EXPECT_EQ(Painted(label), Line("800,-60", "ABCDEFGHIJKLMNOP"));
-    EXPECT_EQ(label.Reach(), (Rect{1000, 0, 400, 120}));
-    EXPECT_EQ(label.Painted(), (Rect{800, -60, 800, 180}));
+    EXPECT_EQ(label.HitBox(), (Rect{1000, 0, 400, 120}));
+    EXPECT_EQ(label.PaintedBox(), (Rect{800, -60, 800, 180}));
 }
 
 TEST_F(LabelTest, AutoSizeFollowsTheTextAndKeepsAnEdge) {
@@ -74,3 +76,5 @@ TEST_F(LabelTest, AutoSizeFollowsTheTextAndKeepsAnEdge) {
 }
 
 }  // namespace
+
+}  // namespace onze

@@ -5,7 +5,9 @@
 #include "forms/control_array.h"
 #include "forms/label.h"
 #include "forms/up_down.h"
-#include "support/headless_platform.h"
+#include "support/headless_host.h"
+
+namespace onze {
 
 namespace {
 
@@ -21,13 +23,13 @@ class StageTest : public testing::Test {
 
     void Wait(int milliseconds) {
         for (int i = 0; i < milliseconds; ++i) {
-            ++platform.now;
+            ++host.now;
             stage.RunDue();
         }
     }
 
-    HeadlessPlatform platform;
-    Stage stage{platform};
+    HeadlessHost host;
+    Stage stage{host, host};
     Form form{stage};
     Label button{form, {100_px, 100_px, 50_px, 20_px}, "OUI", {.outset = 3_px}};
     Label answer{form, {200_px, 100_px, 30_px, 20_px}, "??", {}};
@@ -101,12 +103,12 @@ TEST_F(StageTest, ArrowsStepRefuseTheirLimitsAndTellChangesOnly) {
 
 TEST_F(StageTest, HeldArrowRepeatsWhileThePointerStaysOnItsHalf) {
     stage.Press(kUpperHalf);
-    EXPECT_EQ(stage.NextDue(), platform.now + 500);
+    EXPECT_EQ(stage.NextDue(), host.now + 500);
     Wait(499);
     EXPECT_EQ(arrows.value(), 1);
     Wait(1);
     EXPECT_EQ(arrows.value(), 2);
-    EXPECT_EQ(stage.NextDue(), platform.now + 50);
+    EXPECT_EQ(stage.NextDue(), host.now + 50);
     Wait(100);
     EXPECT_EQ(arrows.value(), 4);
     stage.Move(kLowerHalf);
@@ -140,7 +142,7 @@ TEST_F(StageTest, WheelStepsOverTheArrowsAndTheirAnswer) {
 
 TEST_F(StageTest, DamageIsWhatChangedOnThePageShown) {
     answer.SetCaption("12");
-    EXPECT_EQ(stage.TakeDamage(), answer.Painted());
+    EXPECT_EQ(stage.TakeDamage(), answer.PaintedBox());
     answer.SetCaption("12");
     EXPECT_TRUE(stage.TakeDamage().empty());
     answer.SetLeft(210_px);
@@ -160,7 +162,7 @@ TEST_F(StageTest, TimersRunWhenDueAndOnlyThen) {
     Timer timer(stage);
     std::vector<std::int64_t> runs;
     timer.on_timer = [&] {
-        runs.push_back(platform.now);
+        runs.push_back(host.now);
         if (runs.size() == 2) timer.Start(30);
         if (runs.size() == 3) timer.Stop();
     };
@@ -250,3 +252,5 @@ TEST_F(DoubleClicks, OnOnePageTwoClicksStayTwo) {
 }
 
 }  // namespace
+
+}  // namespace onze

@@ -1,5 +1,7 @@
 #include "support/pupil.h"
 
+namespace onze {
+
 namespace {
 
 TEST(Apprendre, LeavingPutsTheFirstExerciseBack) {
@@ -32,3 +34,5 @@ TEST(Apprendre, ArrowsRunThroughTheirValues) {
 }
 
 }  // namespace
+
+}  // namespace onze

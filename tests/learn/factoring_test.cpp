@@ -1,10 +1,12 @@
 #include "support/exercise.h"
 
+namespace onze {
+
 namespace {
 
-Exercise Factoring(Screens& screens) {
+ExerciseCase Factoring(Screens& screens) {
     const auto& ui = screens.apprendre.factoring.ui;
-    Exercise exercise{screens.apprendre.form, 0, ui.enonce, ui.fleche, ui.label_table1, ui.encore_un, {}};
+    ExerciseCase exercise{screens.apprendre.form, 0, ui.enonce, ui.fleche, ui.label_table1, ui.encore_un, {}};
     const struct {
         int table;
         Draws draws;
@@ -34,3 +36,5 @@ Exercise Factoring(Screens& screens) {
 INSTANTIATE_TEST_SUITE_P(Factoring, ExerciseTest, testing::Values(Factoring));
 
 }  // namespace
+
+}  // namespace onze

@@ -1,10 +1,12 @@
 #include "support/exercise.h"
 
+namespace onze {
+
 namespace {
 
-Exercise LetterCode(Screens& screens) {
+ExerciseCase LetterCode(Screens& screens) {
     const auto& ui = screens.apprendre.letter_code.ui;
-    Exercise exercise{screens.apprendre.form, 2, ui.enonce3, ui.fleche4, ui.enonce3, ui.encore_trois, {}};
+    ExerciseCase exercise{screens.apprendre.form, 2, ui.enonce3, ui.fleche4, ui.enonce3, ui.encore_trois, {}};
     const struct {
         int table, number;
         char letter, given;
@@ -31,3 +33,5 @@ Exercise LetterCode(Screens& screens) {
 INSTANTIATE_TEST_SUITE_P(LetterCode, ExerciseTest, testing::Values(LetterCode));
 
 }  // namespace
+
+}  // namespace onze

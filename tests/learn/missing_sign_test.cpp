@@ -1,10 +1,13 @@
 #include "support/exercise.h"
 
+namespace onze {
+
 namespace {
 
-Exercise MissingSign(Screens& screens) {
+ExerciseCase MissingSign(Screens& screens) {
     const auto& ui = screens.apprendre.missing_sign.ui;
-    Exercise exercise{screens.apprendre.form, 3, ui.enonce4, ui.fleche5, ui.enonce4, ui.encore_quatre, {}};
+    ExerciseCase exercise{screens.apprendre.form, 3, ui.enonce4, ui.fleche5, ui.enonce4,
+                          ui.encore_quatre,       {}};
     const struct {
         int table;
         Draws draws;
@@ -41,3 +44,5 @@ Exercise MissingSign(Screens& screens) {
 INSTANTIATE_TEST_SUITE_P(MissingSign, ExerciseTest, testing::Values(MissingSign));
 
 }  // namespace
+
+}  // namespace onze

@@ -1,10 +1,12 @@
 #include "support/exercise.h"
 
+namespace onze {
+
 namespace {
 
-Exercise Multiple(Screens& screens) {
+ExerciseCase Multiple(Screens& screens) {
     const auto& ui = screens.apprendre.multiple.ui;
-    Exercise exercise{screens.apprendre.form, 1, ui.enonce2, ui.fleche3, ui.enonce2, ui.encore_deux, {}};
+    ExerciseCase exercise{screens.apprendre.form, 1, ui.enonce2, ui.fleche3, ui.enonce2, ui.encore_deux, {}};
     exercise.check = [&ui] {
         if (!ui.chiffre3.visible()) return;
         EXPECT_EQ(ui.chiffre3.box().left, ui.operation2.box().right() + 4);
@@ -62,3 +64,5 @@ Exercise Multiple(Screens& screens) {
 INSTANTIATE_TEST_SUITE_P(Multiple, ExerciseTest, testing::Values(Multiple));
 
 }  // namespace
+
+}  // namespace onze

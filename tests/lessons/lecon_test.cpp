@@ -2,6 +2,8 @@
 
 #include "support/pupil.h"
 
+namespace onze {
+
 namespace {
 
 TEST(Leçon, EveryReminderIsReadableInItsBoxAndKeepsClearOfItsNeighbours) {
@@ -21,3 +23,5 @@ TEST(Leçon, EveryReminderIsReadableInItsBoxAndKeepsClearOfItsNeighbours) {
 }
 
 }  // namespace
+
+}  // namespace onze

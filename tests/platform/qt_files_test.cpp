@@ -4,9 +4,10 @@
 #include <filesystem>
 #include <fstream>
 
-#include "platform/qt/local_time.h"
-#include "platform/qt/qt_platform.h"
-#include "platform/qt/replace_content.h"
+#include "platform/qt/calendar.h"
+#include "platform/qt/data_files.h"
+
+namespace onze {
 
 namespace {
 
@@ -20,9 +21,6 @@ class QtFiles : public testing::Test {
     }
     ~QtFiles() override { fs::remove_all(folder); }
 
-    static void Replace(const fs::path& file, std::string_view text) {
-        ReplaceContent(file, std::as_bytes(std::span(text)));
-    }
     static std::string Read(const fs::path& file) {
         std::ifstream stream(file, std::ios::binary);
         return {std::istreambuf_iterator<char>(stream), {}};
@@ -38,7 +36,7 @@ TEST_F(QtFiles, ReplacingKeepsPermissionsAndFollowsLinks) {
     std::ofstream(folder / "18") << "old";
     fs::permissions(folder / "18", fs::perms(0640));
     fs::create_symlink("18", folder / "link");
-    Replace(folder / "link", "new");
+    EXPECT_TRUE(FolderFiles(folder).Replace("link", std::as_bytes(std::span("new", 3))));
     EXPECT_EQ(Read(folder / "18"), "new");
     EXPECT_TRUE(fs::is_symlink(folder / "link"));
     EXPECT_EQ(fs::status(folder / "18").permissions(), fs::perms(0640));
@@ -49,14 +47,14 @@ TEST_F(QtFiles, TheDataFolderIsLookedForBesideTheLinkFirst) {
     const fs::path itself = fs::read_symlink("/proc/self/exe");
     const fs::path link = folder / "onze-tables";
     fs::create_symlink(itself, link);
-    EXPECT_EQ(FindExecutableFolder(link), itself.parent_path());  // no data folder there yet
+    EXPECT_EQ(FindDataFolder(link), itself.parent_path() / "datas");  // no data folder there yet
     fs::create_directories(folder / "datas");
-    EXPECT_EQ(FindExecutableFolder(link), fs::canonical(folder));
-    EXPECT_EQ(FindExecutableFolder("onze-tables"), itself.parent_path());
+    EXPECT_EQ(FindDataFolder(link), fs::canonical(folder) / "datas");
+    EXPECT_EQ(FindDataFolder("onze-tables"), itself.parent_path() / "datas");
     fs::remove(link);
     std::ofstream(link) << "another program";
-    EXPECT_EQ(FindExecutableFolder(link), itself.parent_path());
-    EXPECT_EQ(FindExecutableFolder(folder / "absent"), itself.parent_path());
+    EXPECT_EQ(FindDataFolder(link), itself.parent_path() / "datas");
+    EXPECT_EQ(FindDataFolder(folder / "absent"), itself.parent_path() / "datas");
 }
 
 TEST(QtTime, IsWrittenAsTheLocaleDoesWithSeconds) {
@@ -74,3 +72,5 @@ TEST(QtTime, IsWrittenAsTheLocaleDoesWithSeconds) {
 }
 
 }  // namespace
+
+}  // namespace onze

@@ -2,6 +2,8 @@
 
 #include "support/pupil.h"
 
+namespace onze {
+
 namespace {
 
 using Times = std::vector<std::int64_t>;
@@ -35,9 +37,9 @@ class PythagoreTest : public testing::Test {
     // Lets time pass and tells how many milliseconds after `start` each sound was heard.
     Times HearUntil(std::int64_t start, std::int64_t end) {
         Times times;
-        while (pupil.platform.now < start + end) {
+        while (pupil.host.now < start + end) {
             pupil.Wait(1);
-            times.resize(times.size() + pupil.Heard().size(), pupil.platform.now - start);
+            times.resize(times.size() + pupil.Heard().size(), pupil.host.now - start);
         }
         return times;
     }
@@ -63,7 +65,8 @@ TEST_F(PythagoreTest, WordsOfAMultiplicationInTheOrderOfTheClicks) {
         pupil.program.stage().TakeDamage();
         pupil.Click(one[first]);
         EXPECT_EQ(screen.operation.caption(), half);
-        EXPECT_TRUE(pupil.program.stage().TakeDamage().Meets(one[0].box())) << "the closed side looks open";
+        EXPECT_TRUE(pupil.program.view().Around(pupil.reaction.repaint).Meets(one[0].box()))
+            << "the closed side looks open";
         pupil.Tap(one[5]);  // the whole side is closed now
         EXPECT_EQ(screen.operation.caption(), half);
         EXPECT_EQ(Enabled(), 11U);
@@ -104,7 +107,7 @@ TEST_F(PythagoreTest, BlinksTenTimesWithAClickEach) {
     }
     EXPECT_EQ(pupil.Heard(), (Names{"4", "5", "6", "7", "8", "9", "10", "1", "2"}));
     EXPECT_EQ(Enabled(), 22U);
-    EXPECT_GT(pupil.program.stage().NextDue().value_or(0), pupil.platform.now + 200)
+    EXPECT_GT(pupil.program.stage().NextDue().value_or(0), pupil.host.now + 200)
         << "still awake after the blink";
 }
 
@@ -135,7 +138,7 @@ TEST_F(PythagoreTest, LeavingDropsAHalfMadePair) {
 
 TEST_F(PythagoreTest, ABlinkRunsOnUnseenAndOpensAllNumbersAtItsEnd) {
     Solve(2, 6);
-    const std::int64_t start = pupil.platform.now;
+    const std::int64_t start = pupil.host.now;
     pupil.Wait(120);
     Leave();
     EXPECT_TRUE(pupil.Sees(pupil.screens.depart.form));
@@ -168,7 +171,7 @@ TEST_F(PythagoreTest, ANewerBlinkGoesFirst) {
     for (const auto& [second_pair, older_flashes] : cases) {
         SCOPED_TRACE(second_pair);
         Solve(1, 1);
-        const std::int64_t start = pupil.platform.now;
+        const std::int64_t start = pupil.host.now;
         pupil.Wait(second_pair);
         Leave();
         Open();
@@ -185,3 +188,5 @@ TEST_F(PythagoreTest, ANewerBlinkGoesFirst) {
 }
 
 }  // namespace
+
+}  // namespace onze

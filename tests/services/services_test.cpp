@@ -2,42 +2,46 @@
 
 #include "services/display_mode.h"
 #include "services/sounds.h"
-#include "support/headless_platform.h"
+#include "support/headless_host.h"
+
+namespace onze {
 
 namespace {
 
 using Names = std::vector<std::string>;
 
 TEST(Sounds, EachCycleRunsRoundOnItsOwn) {
-    HeadlessPlatform platform;
-    Sounds sounds(platform);
+    HeadlessHost host;
+    Sounds sounds(host);
     for (int i = 0; i < 5; ++i) sounds.PlayVictorySound();
     for (int i = 0; i < 6; ++i) sounds.PlayDefeatSound();
     sounds.PlayVictorySound();
-    EXPECT_EQ(platform.calls.at(0), "stop");
-    EXPECT_EQ(platform.calls.at(1), "start datas/1.vic");
-    EXPECT_EQ(platform.sounds, (Names{"1.vic", "2.vic", "3.vic", "4.vic", "1.vic", "1.def", "2.def", "3.def",
-                                      "4.def", "1.def", "2.def", "2.vic"}));
+    EXPECT_EQ(host.calls.at(0), "stop");
+    EXPECT_EQ(host.calls.at(1), "start 1.vic");
+    EXPECT_EQ(host.sounds, (Names{"1.vic", "2.vic", "3.vic", "4.vic", "1.vic", "1.def", "2.def", "3.def",
+                                  "4.def", "1.def", "2.def", "2.vic"}));
 }
 
 TEST(Sounds, ClicksAreUsedUpBehindAClosedGate) {
-    HeadlessPlatform platform;
-    Sounds sounds(platform);
+    HeadlessHost host;
+    Sounds sounds(host);
     for (int i = 0; i < 3; ++i) sounds.PlayClickSound();  // closed at start-up
-    EXPECT_TRUE(platform.calls.empty());
+    EXPECT_TRUE(host.calls.empty());
     sounds.ClickSoundEnabled = 1;
     for (int i = 0; i < 8; ++i) sounds.PlayClickSound();
-    EXPECT_EQ(platform.sounds, (Names{"4", "5", "6", "7", "8", "9", "10", "1"}));
+    EXPECT_EQ(host.sounds, (Names{"4", "5", "6", "7", "8", "9", "10", "1"}));
 }
 
 TEST(DisplayMode, RoundsHalvesToEven) {
-    HeadlessPlatform platform;
-    platform.modes = 0;
-    DisplayMode display(platform);
+    HeadlessHost host;
+    host.modes = 0;
+    DisplayMode display(host);
     display.SetDisplayResolution(1024.5F, 767.5F);
     display.SetDisplayResolution(1023.6F, 768.4F);
-    EXPECT_EQ(platform.calls, (Names{"mode 0", "change 1024x768x0 fields 180000 flags 0", "mode 0",
-                                     "change 1024x768x0 fields 180000 flags 0"}));
+    EXPECT_EQ(host.calls, (Names{"mode 0", "change 1024x768x0 fields 180000 flags 0", "mode 0",
+                                 "change 1024x768x0 fields 180000 flags 0"}));
 }
 
 }  // namespace
+
+}  // namespace onze

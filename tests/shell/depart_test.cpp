@@ -2,6 +2,8 @@
 
 #include "support/pupil.h"
 
+namespace onze {
+
 namespace {
 
 // What a click does: the screen it opens, the way back from there, and the sound it makes.
@@ -23,7 +25,7 @@ struct Zone {
 struct DepartTest : testing::Test {
     Pupil pupil;
     Screens& screens = pupil.screens;
-    DepartUi& ui = screens.depart;
+    Depart& ui = screens.depart;
     Stage& stage = pupil.program.stage();
 
     const Target nothing{&ui.form, nullptr, {}};
@@ -89,7 +91,7 @@ TEST_F(DepartTest, PromptIsReplacedByThatOfAnotherState) {
     prompt_over(&ui.chiffre[2]);
     pupil.Click(ui.Label1);
     pupil.Click(screens.pythagore.retour);
-    EXPECT_EQ(prompt_over(&ui.label_table), choose) << "the state does not outlive a visit elsewhere";
+    EXPECT_EQ(ui.label_table.caption(), "Voulez-vous déjà nous quitter ?") << "RETOUR lies over SORTIE";
 }
 
 TEST_F(DepartTest, EveryZoneWorksFromCornerToCorner) {
@@ -100,7 +102,7 @@ TEST_F(DepartTest, EveryZoneWorksFromCornerToCorner) {
         const Point last{box.right() - 1, box.bottom() - 1};
         for (const Point corner : {Point{box.left, box.top}, {last.x, box.top}, {box.left, last.y}, last}) {
             const auto covers = [corner](const Zone& other) {
-                return other.control->Reach().Contains(corner);
+                return other.control->HitBox().Contains(corner);
             };
             if (std::any_of(zone + 1, zones.end(), covers)) continue;
             SCOPED_TRACE(zone->prompt + " at " + std::to_string(corner.x) + "," + std::to_string(corner.y));
@@ -131,10 +133,10 @@ TEST_F(DepartTest, EveryZoneWorksFromCornerToCorner) {
 }
 
 TEST_F(DepartTest, ClockShowsEverySecondAndTheDateStays) {
-    pupil.platform.long_date = "dimanche 22 novembre 2026";
+    pupil.host.long_date = "dimanche 22 novembre 2026";
     const Names times{"10:20:30", "10:20:31", "10:20:32", "00:00:00", "00:00:01"};
     for (std::size_t second = 1; second < times.size(); ++second) {
-        pupil.platform.time_of_day = times[second];
+        pupil.host.time_of_day = times[second];
         pupil.Wait(999);
         EXPECT_EQ(ui.heure.caption(), times[second - 1]);
         pupil.Wait(1);
@@ -149,20 +151,31 @@ TEST(Depart, FullConsultationCounterStopsTheRunBeforeItsScreenOpens) {
     Counters counters;
     counters.TableConsultations.fill(32767);
     counters.LessonConsultations = counters.PythagoreConsultations = TaggedNumber::Long(2147483647);
-    Pupil pupil(counters);
-    const auto click = [&pupil](const Control& control, const std::string& counter) {
-        pupil.ClickIntoFull(control, counter);
+    const auto click = [&counters](auto control_of, const std::string& counter) {
+        Pupil pupil(counters);
+        Screens& screens = pupil.screens;
+        pupil.ClickIntoFull(control_of(screens.depart), counter);
         EXPECT_EQ(pupil.Heard(), Names{"5"});
-        EXPECT_TRUE(pupil.Sees(pupil.screens.depart.form));
+        EXPECT_TRUE(pupil.Sees(screens.depart.form));
+        return screens.apprendre.titre.caption() + screens.pythagore.operation.caption();
     };
     for (int i = 0; i < kStoredTables; ++i) {
-        click(pupil.screens.depart.chiffre[i], "TableConsultations(" + std::to_string(i) + ")");
-        EXPECT_EQ(pupil.screens.apprendre.titre.caption(),
+        EXPECT_EQ(click([i](Depart& ui) -> Control& { return ui.chiffre[i]; },
+                        "TableConsultations(" + std::to_string(i) + ")"),
                   "Jouons avec la Table de " + std::to_string(i + 2));
     }
-    click(pupil.screens.depart.pytha, "PythagoreConsultations");
-    EXPECT_EQ(pupil.screens.pythagore.operation.caption(), "");
-    click(pupil.screens.depart.Label2, "LessonConsultations");
+    EXPECT_EQ(click([](Depart& ui) -> Control& { return ui.pytha; }, "PythagoreConsultations"), "");
+    EXPECT_EQ(click([](Depart& ui) -> Control& { return ui.Label2; }, "LessonConsultations"), "");
+}
+
+TEST(Depart, WhatHasNoTextIsNamedByItsPrompt) {
+    Pupil pupil;
+    const Depart& ui = pupil.screens.depart;
+    EXPECT_EQ(ui.chiffre[10].name(), "Jouons avec la Table de 12");
+    EXPECT_EQ(ui.exos.name(), "Envie de vous exercer un peu ?");
+    EXPECT_EQ(ui.Label3.name(), "Un peu d'entraînement");
 }
 
 }  // namespace
+
+}  // namespace onze

@@ -9,7 +9,9 @@
 
 #include "forms/label.h"
 #include "shell/program.h"
-#include "support/headless_platform.h"
+#include "support/headless_host.h"
+
+namespace onze {
 
 namespace {
 
@@ -48,33 +50,32 @@ std::vector<int> Values(const Counters& counters) {
 // A program that is started anew each time it was left.
 class Desktop {
   public:
-    explicit Desktop(unsigned seed)
-        : random_(seed + 1), monkey_(seed, [this](Stage& stage, int time) { Wait(stage, time); }) {
+    explicit Desktop(unsigned seed) : random_(seed + 1), monkey_(seed, [this](int time) { Wait(time); }) {
         Start();
     }
 
     void Act() {
-        monkey_.Act(program_->stage());
+        monkey_.Act(*program_);
         Check();
-        const bool left = !platform_.calls.empty() && platform_.calls.back() == "end";
-        platform_.calls.clear();
-        if (left) Start();
+        host_.calls.clear();
+        const Reaction reaction = program_->Take(event::TimePassed());
+        ASSERT_NE(reaction.state, Reaction::State::kFailed) << reaction.failure;
+        if (reaction.state == Reaction::State::kEnded) Start();
     }
 
   private:
     void Start() {
-        program_.emplace(platform_, random_);
-        program_->Load();
-        platform_.calls.clear();
+        program_.emplace(host_, random_);
+        program_->Take(event::Started());
         const std::vector<int> loaded = Values(program_->counters());
         ASSERT_TRUE(values_.empty() || loaded == values_) << "counts are lost";
     }
 
-    void Wait(Stage& stage, int time) {
-        const std::int64_t end = platform_.now + time;
-        while (platform_.now < end) {
-            platform_.now = std::clamp(stage.NextDue().value_or(end), platform_.now + 1, end);
-            stage.RunDue();
+    void Wait(int time) {
+        const std::int64_t end = host_.now + time;
+        while (host_.now < end) {
+            host_.now = std::clamp(program_->stage().NextDue().value_or(end), host_.now + 1, end);
+            program_->Take(event::TimePassed());
         }
     }
 
@@ -93,8 +94,8 @@ class Desktop {
         std::vector<Rect> places;
         for (const Control* control : form.controls()) {
             if (!control->visible()) continue;
-            for (const Rect& place : places) ASSERT_FALSE(control->Painted().Meets(place));
-            places.push_back(control->Painted());
+            for (const Rect& place : places) ASSERT_FALSE(control->PaintedBox().Meets(place));
+            places.push_back(control->PaintedBox());
         }
     }
 
@@ -120,7 +121,7 @@ class Desktop {
         values_ = std::move(values);
     }
 
-    HeadlessPlatform platform_;
+    HeadlessHost host_;
     SeededRandom random_;
     std::optional<Program> program_;
     Monkey monkey_;
@@ -145,3 +146,5 @@ TEST(Monkey, NothingThatAChildDoesBreaksTheRules) {
 }
 
 }  // namespace
+
+}  // namespace onze

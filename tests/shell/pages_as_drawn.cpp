@@ -5,6 +5,8 @@
 #include "support/pupil.h"
 #include "support/writing_canvas.h"
 
+namespace onze {
+
 namespace {
 
 // What is painted is written down in tests/design. Where it is changed on purpose, what is painted now takes
@@ -112,3 +114,5 @@ TEST(Design, Places) {
 }
 
 }  // namespace
+
+}  // namespace onze

@@ -2,6 +2,8 @@
 
 #include "support/pupil.h"
 
+namespace onze {
+
 namespace {
 
 TEST(Bilan, SentencesAndTheWordForTries) {
@@ -44,3 +46,5 @@ TEST(Bilan, FilledAtEachOpening) {
 }
 
 }  // namespace
+
+}  // namespace onze

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "services/data_folder.h"
-#include "support/headless_platform.h"
-#include "support/run_time_error.h"
+#include "support/headless_host.h"
+
+namespace onze {
 
 namespace {
 
@@ -78,27 +78,22 @@ TEST(UsageRecord, UnknownTagsAreEmpty) {
 }
 
 TEST(UsageRecord, SavingMarksTheRecordAndKeepsTheBytesPastIt) {
-    HeadlessPlatform platform;
-    const auto file = DataFile(platform, "18");
-    const std::string old = platform.ReadData("18") + "and more";
-    platform.WriteData("18", old);
-    UsageRecord record = LoadUsageRecord(file);
-    SaveUsageRecord(platform, file, record);
-    std::string expected = old;
+    HeadlessHost host;
+    std::string& file = host.files["18"];
+    file += "and more";
+    std::string expected = file;
     expected[2] = '\1';
-    EXPECT_EQ(platform.ReadData("18"), expected);
-    record = LoadUsageRecord(file);
-    SaveUsageRecord(platform, file, record);
-    EXPECT_EQ(platform.ReadData("18"), expected);
-
-    std::filesystem::remove(file);
-    SaveUsageRecord(platform, file, record);
-    EXPECT_EQ(platform.ReadData("18"), expected.substr(0, 120));
-}
-
-TEST(UsageRecord, FolderInItsPlaceIsNoRecord) {
-    HeadlessPlatform platform;
-    EXPECT_THROW(LoadUsageRecord(platform.folder / "datas"), RunTimeError);
+    for (int i = 0; i < 2; ++i) {
+        UsageRecord record = LoadUsageRecord(host);
+        SaveUsageRecord(host, record);
+        EXPECT_EQ(file, expected);
+    }
+    UsageRecord record = LoadUsageRecord(host);
+    host.files.clear();
+    SaveUsageRecord(host, record);
+    EXPECT_EQ(host.files["18"], expected.substr(0, 120));
 }
 
 }  // namespace
+
+}  // namespace onze

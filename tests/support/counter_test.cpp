@@ -4,6 +4,8 @@
 
 #include "support/run_time_error.h"
 
+namespace onze {
+
 namespace {
 
 TEST(Counter, SixteenBitsStopTheRunPastTheirLimit) {
@@ -40,3 +42,5 @@ TEST(Counter, TaggedNumbersWidenAndEmptyCountsAsZero) {
 }
 
 }  // namespace
+
+}  // namespace onze

@@ -4,6 +4,8 @@
 
 #include "support/pupil.h"
 
+namespace onze {
+
 // What a pupil does in an exercise: enters a value with an arrow, or clicks a label and then sees this.
 struct Deed {
     Deed(const UpDown& turned, int to) : arrow(&turned), value(to) {}
@@ -30,7 +32,7 @@ struct Way {
 };
 
 // An exercise of the learning or of the exercises screen, with all that is known of it.
-struct Exercise {
+struct ExerciseCase {
     const Form& form;
     int place;             // among those of its screen, in the order of their questions
     const Control& first;  // of its controls, which stand side by side
@@ -46,7 +48,7 @@ struct Exercise {
     }
 };
 
-using ExerciseOf = Exercise (*)(Screens&);
+using ExerciseOf = ExerciseCase (*)(Screens&);
 
 // Every exercise is put to the same tests by an
 //     INSTANTIATE_TEST_SUITE_P(Name, ExerciseTest, testing::Values(TheExercise));
@@ -71,3 +73,5 @@ inline const std::string kNowEnter =
     "C'est juste ! Entrez votre réponse grâce aux flèches\rpuis cliquez sur cette réponse pour la "
     "correction.";
 inline const std::string kBravo = "Bravo ! Vous avez trouvé la solution !" + kGoOn;
+
+}  // namespace onze

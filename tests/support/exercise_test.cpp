@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+namespace onze {
+
 std::string Put(std::string text, const std::vector<Word>& words) {
     for (const Word& word : words) text.replace(text.find("{}"), 2, word);
     return text;
@@ -40,7 +42,7 @@ class Sitting : public Pupil {
         return std::to_string(before++ % 4 + 1) + (right ? ".vic" : ".def");
     }
 
-    const Exercise exercise_;
+    const ExerciseCase exercise_;
     const bool learning_ = &exercise_.form == &screens.apprendre.form;
     Controls controls_;  // of the exercise
     Controls others_;    // of its screen
@@ -215,3 +217,5 @@ TEST_P(ExerciseTest, StopsAtAFullCounter) {
 }
 
 }  // namespace
+
+}  // namespace onze

@@ -3,8 +3,10 @@
 #include <functional>
 #include <random>
 
-#include "forms/stage.h"
+#include "shell/program.h"
 #include "support/random.h"
+
+namespace onze {
 
 // Draws that are the same at each run of a test.
 class SeededRandom final : public Random {
@@ -22,16 +24,18 @@ class SeededRandom final : public Random {
 // lets time pass (wait lets that many milliseconds go by).
 class Monkey {
   public:
-    Monkey(unsigned seed, std::function<void(Stage&, int)> wait) : random_(seed), wait_(std::move(wait)) {}
+    Monkey(unsigned seed, std::function<void(int)> wait) : random_(seed), wait_(std::move(wait)) {}
 
-    void Act(Stage& stage);
+    void Act(Program& program);
 
   private:
-    Point Anywhere();
-    Point OnSomething(const Stage& stage);
-    void Hold(Stage& stage);
+    Pixel Anywhere();
+    Pixel OnSomething(Program& program);
+    void Hold(Program& program);
 
     SeededRandom random_;
-    std::function<void(Stage&, int)> wait_;
-    Point at_;
+    std::function<void(int)> wait_;
+    Pixel at_;
 };
+
+}  // namespace onze

@@ -4,6 +4,8 @@
 
 #include "support/capital.h"
 
+namespace onze {
+
 namespace {
 
 TEST(NumberText, StrPutsABlankInPlaceOfThePlusSign) {
@@ -42,3 +44,5 @@ TEST(NumberText, WithCapitalRaisesTheFirstLetterOnly) {
 }
 
 }  // namespace
+
+}  // namespace onze

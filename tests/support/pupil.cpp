@@ -2,68 +2,65 @@
 
 #include <algorithm>
 
-#include "services/data_folder.h"
 #include "stats/usage_record.h"
-#include "support/run_time_error.h"
 
-namespace {
+namespace onze {
 
-Point Middle(const Rect& box) {
-    return {box.left + box.width / 2, box.top + box.height / 2};
-}
+Pupil::Pupil(const Counters& counters)
+    : program(host, random), start(Prepared(counters)), screens(program.screens()) {}
 
-}  // namespace
-
-Pupil::Pupil(const Counters& counters) : program(platform, random), screens(program.screens()) {
+Reaction Pupil::Prepared(const Counters& counters) {
     UsageRecord record;
     record.counters = counters;
-    const auto bytes = ToBytes(record);
-    platform.WriteData("18", {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
-    program.Load();
+    host.Replace("18", ToBytes(record));
+    host.calls.clear();
+    return program.Take(event::Started());
 }
 
-Point Pupil::On(const Control& control) const {
-    const Form* front = program.stage().front();
-    const Point middle = Middle(control.box());
-    if (!front || front->ControlAt(middle) == &control) return middle;
-    const Point corner{control.box().left + 1_px, control.box().top + 1_px};
-    return front->ControlAt(corner) == &control ? corner : middle;
+Pixel Pupil::On(const Control& control) const {
+    const Rect& box = control.box();
+    const auto finds = [&](Pixel pixel) {
+        const Form* front = program.stage().front();
+        return front && front->ControlAt(program.view().ToPage(pixel)) == &control;
+    };
+    const Pixel middle = program.view().ToPixels(Point{box.left + box.width / 2, box.top + box.height / 2});
+    const Pixel corner = program.view().ToPixels(Point{box.left + 1_px, box.top + 1_px});
+    return !finds(middle) && finds(corner) ? corner : middle;
 }
 
 void Pupil::MoveOnto(const Control& control) {
-    program.stage().Move(On(control));
+    program.Take(event::PointerMoved{On(control)});
 }
 
 void Pupil::Click(const Control& control) {
     const Form* front = program.stage().front();
-    ASSERT_TRUE(front && front->ControlAt(On(control)) == &control) << "out of the pointer's reach";
+    ASSERT_TRUE(front && front->ControlAt(program.view().ToPage(On(control))) == &control)
+        << "out of the pointer's reach";
     Tap(control);
 }
 
 void Pupil::ClickIntoFull(const Control& control, const std::string& counter) {
-    const std::string file = platform.ReadData("18");
-    try {
-        Click(control);
-        ADD_FAILURE() << "a full counter was raised";
-    } catch (const RunTimeError& error) {
-        EXPECT_EQ(error.what(), "Dépassement de capacité du compteur « " + counter + " ».");
-    }
-    EXPECT_EQ(platform.ReadData("18"), file);
+    const std::string file = host.files["18"];
+    Click(control);
+    EXPECT_EQ(reaction.state, Reaction::State::kFailed);
+    EXPECT_EQ(reaction.failure, "Dépassement de capacité du compteur « " + counter + " ».");
+    EXPECT_EQ(host.files["18"], file);
 }
 
 void Pupil::Tap(const Control& control) {
-    const Point point = On(control);
-    program.stage().Move(point);
-    program.stage().Press(point);
-    program.stage().Release(point);
+    const Pixel pixel = On(control);
+    program.Take(event::PointerMoved{pixel});
+    program.Take(event::PointerPressed{.at = pixel});
+    reaction = program.Take(event::PointerReleased{pixel});
 }
 
 void Pupil::Step(const UpDown& arrows, int times) {
     const Rect& box = arrows.box();
-    const Point half{box.left + box.width / 2, times > 0 ? box.top + 1_px : box.bottom() - 1_px};
+    const Pixel half = program.view().ToPixels(
+        Point{box.left + box.width / 2, times > 0 ? box.top + 1_px : box.bottom() - 1_px});
     for (int i = 0; i < std::abs(times); ++i) {
-        program.stage().Press(half);
-        program.stage().Release(half);
+        program.Take(event::PointerPressed{.at = half});
+        program.Take(event::PointerReleased{half});
     }
 }
 
@@ -78,8 +75,8 @@ void Pupil::Turn(const UpDown& arrows, int value) {
 
 void Pupil::Wait(std::int64_t milliseconds) {
     for (std::int64_t i = 0; i < milliseconds; ++i) {
-        ++platform.now;
-        program.stage().RunDue();
+        ++host.now;
+        program.Take(event::TimePassed());
     }
 }
 
@@ -120,8 +117,8 @@ void Pupil::OpenExercises(int place, const Draws& draws) {
 }
 
 Names Pupil::Heard() {
-    const Names since(platform.sounds.begin() + static_cast<std::ptrdiff_t>(heard_), platform.sounds.end());
-    heard_ = platform.sounds.size();
+    const Names since(host.sounds.begin() + static_cast<std::ptrdiff_t>(heard_), host.sounds.end());
+    heard_ = host.sounds.size();
     return since;
 }
 
@@ -131,7 +128,8 @@ bool Pupil::Sees(const Form& form) const {
 
 Counters Pupil::Quit() {
     Click(screens.depart.fin);
-    return LoadUsageRecord(DataFile(platform, "18")).counters;
+    EXPECT_EQ(reaction.state, Reaction::State::kEnded);
+    return LoadUsageRecord(host).counters;
 }
 
 void TryOut(Pupil& pupil, const UpDown& arrow, const Label& answer, const Names& values) {
@@ -156,3 +154,5 @@ Names Numbers(const std::string& before, int first, int last, int step) {
         numbers.push_back(before + std::to_string(number));
     return numbers;
 }
+
+}  // namespace onze

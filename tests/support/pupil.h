@@ -8,8 +8,10 @@
 #include "forms/label.h"
 #include "forms/up_down.h"
 #include "shell/program.h"
-#include "support/headless_platform.h"
+#include "support/headless_host.h"
 #include "support/scripted_random.h"
+
+namespace onze {
 
 using Names = std::vector<std::string>;
 
@@ -48,15 +50,18 @@ class Pupil {
     // Clicks SORTIE and reads what was saved.
     Counters Quit();
 
-    HeadlessPlatform platform;
+    HeadlessHost host;
     ScriptedRandom random;
     Program program;
+    const Reaction start;
+    Reaction reaction;  // to the last click
     Screens& screens;
 
   private:
     void Expect(std::vector<Draws> all, int place, const Draws& draws);
     // The middle of a control, or its corner where another control covers the middle.
-    Point On(const Control& control) const;
+    Pixel On(const Control& control) const;
+    Reaction Prepared(const Counters& counters);
 
     std::size_t heard_ = 0;
 };
@@ -67,3 +72,5 @@ void TryOut(Pupil& pupil, const UpDown& arrow, const Label& answer, const Names&
 
 // Numbers as answers show them, up to the last one.
 Names Numbers(const std::string& before, int first, int last, int step = 1);
+
+}  // namespace onze

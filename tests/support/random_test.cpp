@@ -4,6 +4,8 @@
 
 #include <set>
 
+namespace onze {
+
 namespace {
 
 std::int64_t Noon() {
@@ -60,3 +62,5 @@ TEST(ClockRandom, TheClockChoosesTheSequence) {
 }
 
 }  // namespace
+
+}  // namespace onze

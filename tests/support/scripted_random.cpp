@@ -4,6 +4,8 @@
 
 #include <stdexcept>
 
+namespace onze {
+
 ScriptedRandom::~ScriptedRandom() {
     EXPECT_TRUE(script_.empty()) << script_.size() << " scripted draws left over";
 }
@@ -18,3 +20,5 @@ int ScriptedRandom::Next(int bound) {
         throw std::logic_error("no value of " + text(bound));
     return draw.value;
 }
+
+}  // namespace onze

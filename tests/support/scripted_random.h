@@ -5,6 +5,8 @@
 
 #include "support/random.h"
 
+namespace onze {
+
 struct ScriptedDraw {
     int bound;
     int value;
@@ -31,3 +33,5 @@ class ScriptedRandom final : public Random {
 
     std::deque<ScriptedDraw> script_;
 };
+
+}  // namespace onze

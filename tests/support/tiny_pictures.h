@@ -4,6 +4,8 @@
 #include <span>
 #include <string_view>
 
+namespace onze {
+
 // The smallest pictures of each format, whole files of one colour (192, 64, 0); the JPEG one is grey and the
 // PNG one half transparent.
 struct TinyPicture {
@@ -48,3 +50,5 @@ inline std::span<const std::byte> AsBytes(std::string_view text) {
 }
 
 }  // namespace tiny
+
+}  // namespace onze

@@ -7,6 +7,8 @@
 
 #include "support/tiny_pictures.h"
 
+namespace onze {
+
 namespace {
 
 using namespace std::string_literals;
@@ -47,3 +49,5 @@ TEST(WholePicture, APngTellsItsEnd) {
 }
 
 }  // namespace
+
+}  // namespace onze

@@ -2,13 +2,15 @@
 
 #include <sstream>
 
-#include "support/headless_platform.h"
+#include "support/headless_host.h"
+
+namespace onze {
 
 // Writes down all that is painted.
 class WritingCanvas final : public Canvas {
   public:
     void DrawPicture(const Picture& picture, Point at) override {
-        const auto& drawn = static_cast<const HeadlessPicture&>(picture);
+        const auto& drawn = static_cast<const NullPicture&>(picture);
         out << "picture " << drawn.source << At({drawn.x, drawn.y}) << ' ' << drawn.width << 'x'
             << drawn.height << " at" << At(at) << '\n';
     }
@@ -40,3 +42,5 @@ class WritingCanvas final : public Canvas {
             << In(color) << '\n';
     }
 };
+
+}  // namespace onze

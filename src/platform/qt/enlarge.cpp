@@ -8,6 +8,8 @@
 #include <thread>
 #include <vector>
 
+namespace onze {
+
 namespace {
 
 constexpr int kTaps = 4;
@@ -130,3 +132,5 @@ QImage Enlarged(const QImage& image, QSize size) {
     EnlargeRows(image, size, bytes, middle, size.height());
     return enlarged;
 }
+
+}  // namespace onze

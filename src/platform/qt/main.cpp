@@ -2,11 +2,13 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "platform/qt/page_window.h"
-#include "platform/qt/qt_platform.h"
+#include "platform/qt/host.h"
 #include "platform/qt/report_window.h"
+#include "platform/qt/window.h"
 #include "shell/program.h"
 #include "support/random.h"
+
+using namespace onze;
 
 namespace {
 
@@ -35,15 +37,17 @@ void HandleQtMessage(QtMsgType type, const QMessageLogContext&, const QString& t
     std::quick_exit(1);
 }
 
-int RunProgram(QtPlatform& platform) {
-    ClockRandom random;
-    Program program(platform, random);
-    program.Load();
-    PageWindow window(program.stage(), platform);
+int Run(Program& program, QtHost& host) {
+    const Reaction start = program.Take(event::Started());
+    if (start.state == Reaction::State::kFailed) {
+        Report(start.failure.c_str());
+        return 1;
+    }
+    Window window(program, host);
     window.setTitle(kName);
     window.Present();
     const int status = QCoreApplication::exec();
-    window.RethrowFailure();
+    if (!window.failure().empty()) Report(window.failure().c_str());
     return status;
 }
 
@@ -54,13 +58,10 @@ int main(int, char** argv) {
     int only_the_name = 1;
     QGuiApplication application(only_the_name, argv);
     QGuiApplication::setDesktopFileName("onze-tables");
-    QtPlatform platform(FindExecutableFolder(argv[0]));
-    int status = 1;
-    try {
-        status = RunProgram(platform);
-    } catch (const std::exception& error) {
-        Report(error.what());
-    }
+    QtHost host(FindDataFolder(argv[0]));
+    ClockRandom random;
+    Program program(host, random);
+    const int status = Run(program, host);
     // Nothing is taken down: a sound that plays, or a sound server that does not answer, would delay the end.
     std::quick_exit(status);
 }

@@ -9,6 +9,8 @@
 #include <QScreen>
 #include <algorithm>
 
+namespace onze {
+
 namespace {
 
 constexpr int kMargin = 24;
@@ -69,3 +71,5 @@ void ReportWindow::keyPressEvent(QKeyEvent* event) {
 void ReportWindow::mouseReleaseEvent(QMouseEvent* event) {
     if (Button().contains(event->position().toPoint())) close();
 }
+
+}  // namespace onze

@@ -2,6 +2,8 @@
 
 #include <QRasterWindow>
 
+namespace onze {
+
 // Tells one text, such as that of an error, until it is put away with a click on "OK" or a key. A message box
 // of Qt's would take the library of all its widgets, which every start would then wait for.
 class ReportWindow final : public QRasterWindow {
@@ -22,3 +24,5 @@ class ReportWindow final : public QRasterWindow {
     QString text_;
     QRect text_box_;
 };
+
+}  // namespace onze

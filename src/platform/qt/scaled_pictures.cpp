@@ -2,6 +2,8 @@
 
 #include "platform/qt/enlarge.h"
 
+namespace onze {
+
 namespace {
 
 constexpr qsizetype kBytesPerPixel = 4;
@@ -30,3 +32,5 @@ QImage ScaledPictures::AtSize(const QtPicture& picture, QSize size, QSize page) 
     kept_.insert(key, new QImage(scaled), scaled.sizeInBytes());
     return scaled;
 }
+
+}  // namespace onze

@@ -3,7 +3,9 @@
 #include <QCache>
 #include <QImage>
 
-#include "platform/qt/qt_picture.h"
+#include "platform/qt/pictures.h"
+
+namespace onze {
 
 // The pictures of the page as it is shown, at the size at which it is shown, so that they are not scaled at
 // every paint. Those of the pages that were left make room: each page of a large screen takes megabytes.
@@ -15,3 +17,5 @@ class ScaledPictures {
   private:
     QCache<qint64, QImage> kept_;  // by the picture's key; costs are bytes
 };
+
+}  // namespace onze

@@ -2,6 +2,8 @@
 
 #include <dlfcn.h>
 
+namespace onze {
+
 namespace {
 
 using AlsaErrorHandler = void (*)(const char*, int, const char*, int, const char*, ...);
@@ -22,3 +24,5 @@ Sdl::Sdl() : library_(dlopen("libSDL2-2.0.so.0", RTLD_NOW | RTLD_LOCAL)) {
 Sdl::Symbol Sdl::Find(const char* name) const {
     return {library_ ? dlsym(library_, name) : nullptr};
 }
+
+}  // namespace onze

@@ -2,6 +2,8 @@
 
 #include <SDL.h>
 
+namespace onze {
+
 // The part of SDL that plays sounds, under its own names. It is loaded when it is first needed, and not
 // linked: with all the sound systems that it brings along it would double the time that the program takes to
 // start.
@@ -40,3 +42,5 @@ class Sdl {
     decltype(&::SDL_ClearQueuedAudio) ClearQueuedAudio = Find("SDL_ClearQueuedAudio");
     decltype(&::SDL_GetQueuedAudioSize) GetQueuedAudioSize = Find("SDL_GetQueuedAudioSize");
 };
+
+}  // namespace onze

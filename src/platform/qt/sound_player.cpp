@@ -5,6 +5,8 @@
 
 #include "platform/qt/sdl.h"
 
+namespace onze {
+
 namespace {
 
 using Clock = std::chrono::steady_clock;
@@ -106,7 +108,7 @@ void Device::Close() {
 
 }  // namespace
 
-void SoundPlayer::Ask(std::filesystem::path file) {
+void SdlSoundPlayer::Ask(std::filesystem::path file) {
     if (!worker_.joinable()) {
         if (file.empty()) return;
         worker_ = std::jthread([this](const std::stop_token& stop) { Work(stop); });
@@ -116,7 +118,7 @@ void SoundPlayer::Ask(std::filesystem::path file) {
     asked_.notify_one();
 }
 
-void SoundPlayer::Work(const std::stop_token& stop) {
+void SdlSoundPlayer::Work(const std::stop_token& stop) {
     const Sdl sdl;
     if (!sdl) return;
     Device device(sdl);
@@ -132,7 +134,7 @@ void SoundPlayer::Work(const std::stop_token& stop) {
     }
 }
 
-std::optional<std::filesystem::path> SoundPlayer::NextRequest(const std::stop_token& stop, bool give_up) {
+std::optional<std::filesystem::path> SdlSoundPlayer::NextRequest(const std::stop_token& stop, bool give_up) {
     const auto asked = [this] { return request_.has_value(); };
     std::unique_lock lock(mutex_);
     if (give_up) {
@@ -142,3 +144,5 @@ std::optional<std::filesystem::path> SoundPlayer::NextRequest(const std::stop_to
     }
     return std::exchange(request_, std::nullopt);
 }
+
+}  // namespace onze

@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <new>
 
+namespace onze {
+
 GdiBitmap::GdiBitmap(int width, int height) : width_(width), height_(height) {
     BITMAPINFO info{};
     info.bmiHeader.biSize = sizeof(info.bmiHeader);
@@ -28,3 +30,5 @@ GdiBitmap::~GdiBitmap() {
 std::uint32_t* GdiBitmap::Row(int y) const {
     return static_cast<std::uint32_t*>(pixels_) + static_cast<std::ptrdiff_t>(y) * width_;
 }
+
+}  // namespace onze

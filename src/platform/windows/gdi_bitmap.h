@@ -4,6 +4,8 @@
 
 #include <cstdint>
 
+namespace onze {
+
 // A bitmap of 32-bit pixels, the rows from the top down, and a device context to draw on it or from it.
 class GdiBitmap {
   public:
@@ -27,3 +29,5 @@ class GdiBitmap {
     HBITMAP bitmap_;
     HGDIOBJ former_bitmap_;
 };
+
+}  // namespace onze

@@ -3,6 +3,8 @@
 #include <gdiplus.h>
 #include <windows.h>
 
+namespace onze {
+
 // Keeps GDI+ ready for use as long as it lives.
 class GdiPlus {
   public:
@@ -17,3 +19,5 @@ class GdiPlus {
   private:
     ULONG_PTR token_ = 0;
 };
+
+}  // namespace onze

@@ -1,22 +1,14 @@
 #include <windows.h>
 
-#include "platform/windows/text.h"
+#include "platform/windows/host.h"
+#include "platform/windows/utf8.h"
 #include "platform/windows/window.h"
-#include "platform/windows/windows_platform.h"
 #include "shell/program.h"
 #include "support/random.h"
-#include "support/run_time_error.h"
+
+using namespace onze;
 
 namespace {
-
-void RunProgram() {
-    WindowsPlatform platform;
-    ClockRandom random;
-    Program program(platform, random);
-    program.Load();
-    Window window(platform, program.stage());
-    window.Run();
-}
 
 int Report(const std::string& error) {
     DWORD written = 0;
@@ -30,12 +22,18 @@ int Report(const std::string& error) {
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
-    try {
-        RunProgram();
-        return 0;
-    } catch (const RunTimeError& error) {
-        return Report(error.what());
-    } catch (const std::exception& error) {
-        return Report(std::string("Erreur inattendue : ") + error.what());
+    WindowsHost host(FindDataFolder());
+    ClockRandom random;
+    Program program(host, random);
+    const Reaction start = program.Take(event::Started());
+    if (start.state == Reaction::State::kFailed) return Report(start.failure);
+    std::string failure = "La fenêtre ne peut pas s'ouvrir.";
+    {
+        Window window(program, host);
+        if (window.exists()) {
+            window.Run();
+            failure = window.failure();
+        }
     }
+    return failure.empty() ? 0 : Report(failure);
 }

@@ -5,7 +5,7 @@
 #include <cstring>
 #include <span>
 
-#include "platform/windows/files.h"
+namespace onze {
 
 namespace {
 
@@ -22,15 +22,17 @@ bool IsWhole(std::span<const std::byte> wave) {
 
 }  // namespace
 
-void SoundPlayer::Stop() {
+void WindowsSoundPlayer::Silence() {
     PlaySoundW(nullptr, nullptr, 0);
 }
 
 // Played from memory, because the player would look for "5.wav" when it is given a file named "5".
-void SoundPlayer::Start(const std::filesystem::path& file) {
-    Stop();
-    playing_ = ReadWholeFile(file).value_or(std::vector<std::byte>());
+void WindowsSoundPlayer::Start(std::string_view name) {
+    Silence();
+    playing_ = files_.Read(name).value_or(std::vector<std::byte>());
     if (!IsWhole(playing_)) return;
     PlaySoundW(reinterpret_cast<const wchar_t*>(playing_.data()), nullptr,
                SND_MEMORY | SND_ASYNC | SND_NODEFAULT);
 }
+
+}  // namespace onze

@@ -1,22 +1,30 @@
 #pragma once
 
 #include <cstddef>
-#include <filesystem>
 #include <vector>
 
-// Plays one wave file at a time through the system's wave player. What cannot be played is silence.
-class SoundPlayer {
-  public:
-    SoundPlayer() = default;
-    SoundPlayer(const SoundPlayer&) = delete;
-    SoundPlayer& operator=(const SoundPlayer&) = delete;
-    ~SoundPlayer() { Stop(); }
+#include "services/data_files.h"
+#include "services/sound_player.h"
 
-    void Stop();
-    // Returns at once.
-    void Start(const std::filesystem::path& file);
+namespace onze {
+
+// Plays through the system's wave player.
+class WindowsSoundPlayer final : public SoundPlayer {
+  public:
+    explicit WindowsSoundPlayer(DataFiles& files) : files_(files) {}
+    WindowsSoundPlayer(const WindowsSoundPlayer&) = delete;
+    WindowsSoundPlayer& operator=(const WindowsSoundPlayer&) = delete;
+    ~WindowsSoundPlayer() override { Silence(); }
+
+    void Stop() override { Silence(); }
+    void Start(std::string_view name) override;
 
   private:
+    static void Silence();
+
+    DataFiles& files_;
     // The player reads from here as long as it plays.
     std::vector<std::byte> playing_;
 };
+
+}  // namespace onze

@@ -4,10 +4,10 @@
 #include <windowsx.h>
 
 #include <algorithm>
-#include <system_error>
 
-#include "platform/windows/gdi_canvas.h"
-#include "platform/windows/pixels.h"
+#include "platform/windows/canvas.h"
+
+namespace onze {
 
 namespace {
 
@@ -18,17 +18,17 @@ constexpr int kWidth = kPageWidth / kTwipsPerPixel;
 constexpr int kHeight = kPageHeight / kTwipsPerPixel;
 constexpr std::int64_t kShortWaitMs = 200;
 
-// Sharpens the system's timers, which else may be late by 16 ms, for the length of a short wait.
-class SharpTimers {
+// The system's timers may be late by 16 ms; for the length of a short wait they are asked to be exact.
+class ExactTimers {
   public:
-    explicit SharpTimers(bool wanted) : wanted_(wanted) {
+    explicit ExactTimers(bool wanted) : wanted_(wanted) {
         if (wanted_) timeBeginPeriod(1);
     }
-    ~SharpTimers() {
+    ~ExactTimers() {
         if (wanted_) timeEndPeriod(1);
     }
-    SharpTimers(const SharpTimers&) = delete;
-    SharpTimers& operator=(const SharpTimers&) = delete;
+    ExactTimers(const ExactTimers&) = delete;
+    ExactTimers& operator=(const ExactTimers&) = delete;
 
   private:
     bool wanted_;
@@ -48,18 +48,30 @@ void RegisterOnce(WNDPROC procedure) {
     RegisterClassExW(&window_class);
 }
 
-Point PointOf(LPARAM lparam) {
-    return MiddleOfPixel(GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam));
+Pixel PixelOf(LPARAM lparam) {
+    return {GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)};
+}
+
+// The dots per inch that the desktop is set to, where 96 are 100 %. Windows 7 knows one number for all
+// windows.
+int DotsPerInch(HWND window) {
+    using GetDpi = UINT(WINAPI*)(HWND);
+    const HMODULE user = GetModuleHandleW(L"user32.dll");
+    const auto get_dpi =
+        reinterpret_cast<GetDpi>(reinterpret_cast<void (*)()>(GetProcAddress(user, "GetDpiForWindow")));
+    if (get_dpi) return static_cast<int>(get_dpi(window));
+    const HDC screen = GetDC(nullptr);
+    const int dots = GetDeviceCaps(screen, LOGPIXELSX);
+    ReleaseDC(nullptr, screen);
+    return dots;
 }
 
 }  // namespace
 
-Window::Window(WindowsPlatform& platform, Stage& stage)
-    : platform_(platform), stage_(stage), page_(kWidth, kHeight) {
+Window::Window(Program& program, WindowsHost& host) : program_(program), host_(host) {
     RegisterOnce(&Window::Procedure);
     CreateWindowExW(WS_EX_APPWINDOW, kClass, kTitle, WS_POPUP, 0, 0, kWidth, kHeight, nullptr, nullptr,
                     GetModuleHandleW(nullptr), this);
-    if (!handle_) throw std::system_error(static_cast<int>(GetLastError()), std::system_category());
 }
 
 Window::~Window() {
@@ -71,35 +83,38 @@ void Window::Run() {
     ShowWindow(handle_, SW_SHOWNORMAL);
     SetForegroundWindow(handle_);
     while (Running()) {
-        Refresh();
         WaitForWork();
         PassMessages();
-        if (Running()) stage_.RunDue();
+        if (Running()) Take(event::TimePassed());
     }
-    if (failure_) std::rethrow_exception(failure_);
 }
 
 void Window::WaitForWork() const {
-    const auto due = stage_.NextDue();
-    const std::int64_t wait = due ? std::max<std::int64_t>(*due - platform_.TickCount(), 0) : INFINITE;
-    const SharpTimers sharp(wait > 0 && wait < kShortWaitMs);
+    const std::int64_t wait =
+        wake_at_ ? std::max<std::int64_t>(*wake_at_ - host_.clock.TickCount(), 0) : INFINITE;
+    const ExactTimers exact(wait > 0 && wait < kShortWaitMs);
     MsgWaitForMultipleObjectsEx(0, nullptr, static_cast<DWORD>(wait), QS_ALLINPUT, MWMO_INPUTAVAILABLE);
 }
 
 void Window::PassMessages() {
     MSG message;
-    while (Running() && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-        DispatchMessageW(&message);
-        if (Running()) Refresh();
-    }
+    while (Running() && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
 }
 
-// Asks for the painting of what changed; the pointer's looks may have changed with it.
-void Window::Refresh() {
-    const Rect damage = stage_.TakeDamage();
-    if (damage.empty()) return;
-    const RECT pixels = PixelsAround(damage);
-    InvalidateRect(handle_, &pixels, FALSE);
+void Window::Follow(const Reaction& reaction) {
+    wake_at_ = reaction.wake_at;
+    if (reaction.state != Reaction::State::kRuns) {
+        runs_ = false;
+        failure_ = reaction.failure;
+        return;
+    }
+    if (!reaction.repaint.empty()) {
+        const PixelBox& box = reaction.repaint;
+        const RECT pixels{box.left, box.top, box.right(), box.bottom()};
+        InvalidateRect(handle_, &pixels, FALSE);
+    }
+    if (hand_ == reaction.hand) return;
+    hand_ = reaction.hand;
     ShowCursor();
 }
 
@@ -110,14 +125,7 @@ LRESULT CALLBACK Window::Procedure(HWND handle, UINT message, WPARAM wparam, LPA
         SetWindowLongPtrW(handle, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(created));
     }
     auto* const window = reinterpret_cast<Window*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
-    if (!window) return DefWindowProcW(handle, message, wparam, lparam);
-    try {
-        return window->Handle(message, wparam, lparam);
-    } catch (...) {
-        // The system's code between here and the loop cannot be unwound.
-        window->failure_ = std::current_exception();
-        return 0;
-    }
+    return window ? window->Handle(message, wparam, lparam) : DefWindowProcW(handle, message, wparam, lparam);
 }
 
 LRESULT Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
@@ -128,20 +136,23 @@ LRESULT Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
             Paint();
             return 0;
         case WM_MOUSEMOVE:
-            stage_.Move(PointOf(lparam));
+            Take(event::PointerMoved{PixelOf(lparam)});
             return 0;
         case WM_LBUTTONDOWN:
-            Press(PointOf(lparam));
+            Press(PixelOf(lparam));
             return 0;
         case WM_LBUTTONUP:
-            Release(PointOf(lparam));
+            Release(PixelOf(lparam));
             return 0;
         case WM_CAPTURECHANGED:
             LoseCapture();
             return 0;
-        case WM_MOUSEWHEEL:
-            Wheel(wparam, lparam);
+        case WM_MOUSEWHEEL: {
+            POINT pixel{GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)};
+            ScreenToClient(handle_, &pixel);
+            Take(event::WheelTurned{{pixel.x, pixel.y}, GET_WHEEL_DELTA_WPARAM(wparam)});
             return 0;
+        }
         case WM_SETCURSOR:
             if (LOWORD(lparam) == HTCLIENT && ShowCursor()) return TRUE;
             break;
@@ -168,60 +179,67 @@ void Window::Paint() {
     PAINTSTRUCT paint;
     const HDC screen = BeginPaint(handle_, &paint);
     const RECT& dirty = paint.rcPaint;
-    const HDC page = page_.dc();
+    const PixelBox part{dirty.left, dirty.top, dirty.right - dirty.left, dirty.bottom - dirty.top};
+    const HDC page = page_->dc();
     const int state = SaveDC(page);
     IntersectClipRect(page, dirty.left, dirty.top, dirty.right, dirty.bottom);
-    GdiCanvas canvas(page, platform_.fonts());
-    stage_.Paint(canvas, ToTwips(dirty));
+    GdiCanvas canvas(page, program_.view(), host_.fonts);
+    const Reaction reaction = program_.Paint(canvas, part);
     RestoreDC(page, state);
-    BitBlt(screen, dirty.left, dirty.top, dirty.right - dirty.left, dirty.bottom - dirty.top, page,
-           dirty.left, dirty.top, SRCCOPY);
+    BitBlt(screen, part.left, part.top, part.width, part.height, page, part.left, part.top, SRCCOPY);
     EndPaint(handle_, &paint);
+    Follow(reaction);
 }
 
-void Window::Press(Point point) {
+void Window::Press(Pixel at) {
     SetCapture(handle_);
     pressed_ = true;
     const int across = std::max(GetSystemMetrics(SM_CXDOUBLECLK), GetSystemMetrics(SM_CYDOUBLECLK));
-    stage_.Press(point, {.pressed_at = GetMessageTime(),
-                         .time = GetDoubleClickTime(),
-                         .distance = across * kTwipsPerPixel / 2});
+    Take(event::PointerPressed{.at = at,
+                               .time = GetMessageTime(),
+                               .double_click_time = static_cast<int>(GetDoubleClickTime()),
+                               .double_click_distance = across / 2.0});
 }
 
-void Window::Release(Point point) {
+void Window::Release(Pixel at) {
     if (!pressed_) return;
     pressed_ = false;
     ReleaseCapture();
-    stage_.Release(point);
+    Take(event::PointerReleased{at});
 }
 
 void Window::LoseCapture() {
     if (!pressed_) return;
     pressed_ = false;
-    stage_.CancelPress();
+    Take(event::PointerLost());
 }
 
-void Window::Wheel(WPARAM wparam, LPARAM lparam) {
-    wheel_turn_ += GET_WHEEL_DELTA_WPARAM(wparam);
-    const int notches = wheel_turn_ / WHEEL_DELTA;
-    if (notches == 0) return;
-    wheel_turn_ -= notches * WHEEL_DELTA;
-    POINT pixel{GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)};
-    ScreenToClient(handle_, &pixel);
-    stage_.Wheel(MiddleOfPixel(pixel.x, pixel.y), notches);
+// How large a pixel of the page is: one of the screen's on a screen of the page's size, else as many as the
+// desktop has of them for one, as far as there is room.
+double Window::Scale() const {
+    const double room = std::min(static_cast<double>(host_.desktop.ScreenWidthInPixels()) / kWidth,
+                                 static_cast<double>(host_.desktop.ScreenHeightInPixels()) / kHeight);
+    return std::max(1.0, std::min(DotsPerInch(handle_) / 96.0, room));
 }
 
-void Window::PlaceOnScreen() const {
-    const int left = (platform_.ScreenWidthInPixels() - kWidth) / 2;
-    const int top = (platform_.ScreenHeightInPixels() - kHeight) / 2;
-    SetWindowPos(handle_, HWND_TOP, left, top, kWidth, kHeight, SWP_NOACTIVATE);
+void Window::PlaceOnScreen() {
+    const double scale = Scale();
+    const auto width = static_cast<int>(kWidth * scale);
+    const auto height = static_cast<int>(kHeight * scale);
+    const int left = (host_.desktop.ScreenWidthInPixels() - width) / 2;
+    const int top = (host_.desktop.ScreenHeightInPixels() - height) / 2;
+    if (!page_ || page_->width() != width || page_->height() != height) {
+        page_.emplace(width, height);
+        Take(event::WindowResized{width, height});
+    }
+    SetWindowPos(handle_, HWND_TOP, left, top, width, height, SWP_NOACTIVATE);
 }
 
 bool Window::ShowCursor() const {
     POINT pixel;
     if (!GetCursorPos(&pixel) || WindowFromPoint(pixel) != handle_) return false;
-    ScreenToClient(handle_, &pixel);
-    const bool hand = stage_.ReactsToClickAt(MiddleOfPixel(pixel.x, pixel.y));
-    SetCursor(LoadCursorW(nullptr, hand ? IDC_HAND : IDC_ARROW));
+    SetCursor(LoadCursorW(nullptr, hand_ ? IDC_HAND : IDC_ARROW));
     return true;
 }
+
+}  // namespace onze

@@ -2,47 +2,57 @@
 
 #include <windows.h>
 
-#include <exception>
+#include <optional>
 
-#include "forms/stage.h"
 #include "platform/windows/gdi_bitmap.h"
-#include "platform/windows/windows_platform.h"
+#include "platform/windows/host.h"
+#include "shell/program.h"
 
-// The one window: the page in real pixels, without any border, in the middle of the screen, or all of it on a
-// screen of the page's size.
+namespace onze {
+
+// The one window: the page without any border, in the middle of the screen, or all of it on a screen of the
+// page's size.
 class Window {
   public:
-    Window(WindowsPlatform& platform, Stage& stage);
+    Window(Program& program, WindowsHost& host);
     Window(const Window&) = delete;
     Window& operator=(const Window&) = delete;
     ~Window();
 
-    // Shows the page and passes events until the program ends or the window is closed. Throws what a screen
-    // throws.
+    // Whether the system has made it.
+    bool exists() const { return handle_ != nullptr; }
+    // Shows the page and passes events until the program ends or fails, or the window is closed.
     void Run();
+    // The text of what ended the program, if it failed.
+    const std::string& failure() const { return failure_; }
 
   private:
     static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam);
     LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam);
 
-    bool Running() const { return handle_ && !failure_ && !platform_.ended(); }
+    void Take(const Event& event) { Follow(program_.Take(event)); }
+    void Follow(const Reaction& reaction);
+    bool Running() const { return handle_ && runs_; }
     void WaitForWork() const;
     void PassMessages();
-    void Refresh();
 
     void Paint();
-    void Press(Point point);
-    void Release(Point point);
+    void Press(Pixel at);
+    void Release(Pixel at);
     void LoseCapture();
-    void Wheel(WPARAM wparam, LPARAM lparam);
-    void PlaceOnScreen() const;
+    void PlaceOnScreen();
+    double Scale() const;
     bool ShowCursor() const;
 
-    WindowsPlatform& platform_;
-    Stage& stage_;
-    GdiBitmap page_;
+    Program& program_;
+    WindowsHost& host_;
+    std::optional<GdiBitmap> page_;
     HWND handle_ = nullptr;
     bool pressed_ = false;
-    int wheel_turn_ = 0;
-    std::exception_ptr failure_;
+    bool hand_ = false;
+    bool runs_ = true;
+    std::optional<std::int64_t> wake_at_;
+    std::string failure_;
 };
+
+}  // namespace onze

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "forms/look.h"
+#include "forms/up_down.h"
+
+namespace onze {
+
+// What the six exercises look like.
+
+inline constexpr Font kExerciseFont{8.25_pt, true};
+
+inline const LabelStyle kExerciseLine{.font = kExerciseFont, .color = kInk, .middle = true};
+inline const LabelStyle kExerciseMessage{.role = Role::kMessage, .font = kExerciseFont, .color = kInk};
+
+// A place to fill in. Its frame passes the box as far as the neighbours leave room; the text stays inside.
+inline LabelStyle ExerciseAnswer(Margins outset) {
+    LabelStyle style = kAnswer;
+    style.font = kExerciseFont;
+    style.color = {0, 70, 170};
+    style.frame = Color{110, 140, 195};
+    style.outset = outset;
+    style.overhang = {outset.left - 1_px, 0, outset.right - 1_px, 0};
+    return style;
+}
+
+// One "Continuer" stands right below the corner of an answer, hence so little around a button.
+inline const LabelStyle kExerciseButton = [] {
+    LabelStyle style = kButton;
+    style.font.height = 9.75_pt;
+    style.outset = 1_px;
+    return style;
+}();
+
+// An arrow stands right over its answer, in the middle: within an equation there is no room at the sides.
+inline constexpr int kArrowLead = 8_px;  // how far it passes the answer to the left and to the right
+
+inline Rect ArrowOver(const Label& answer) {
+    const Rect& box = answer.box();
+    return {box.left - kArrowLead, answer.HitBox().top - 27_px, box.width + 2 * kArrowLead, 26_px};
+}
+
+}  // namespace onze

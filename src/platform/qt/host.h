@@ -1,0 +1,39 @@
+#pragma once
+
+#include <chrono>
+
+#include "forms/clock.h"
+#include "platform/qt/calendar.h"
+#include "platform/qt/data_files.h"
+#include "platform/qt/desktop.h"
+#include "platform/qt/fonts.h"
+#include "platform/qt/pictures.h"
+#include "platform/qt/sound_player.h"
+#include "shell/host.h"
+
+namespace onze {
+
+class SteadyClock final : public Clock {
+  public:
+    std::int64_t TickCount() const override {
+        using namespace std::chrono;
+        return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+    }
+};
+
+// All that a Linux desktop offers to the program. Needs a QGuiApplication.
+struct QtHost {
+    explicit QtHost(const std::filesystem::path& datas) : files(datas), sound_player(datas) {}
+
+    Fonts fonts;
+    SteadyClock clock;
+    FolderFiles files;
+    QtPictures pictures;
+    SdlSoundPlayer sound_player;
+    QtDesktop desktop;
+    QtCalendar calendar;
+
+    operator Host() { return {fonts, clock, files, pictures, sound_player, desktop, calendar}; }
+};
+
+}  // namespace onze

@@ -1,9 +1,0 @@
-#pragma once
-
-#include <QDateTime>
-#include <QLocale>
-#include <string>
-
-// Date and time of day as a locale writes them at length, the time with its seconds; in UTF-8.
-std::string LongDateText(const QLocale& locale, QDate date);
-std::string TimeText(const QLocale& locale, QTime time);

@@ -1,0 +1,131 @@
+#include "platform/qt/window.h"
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QStyleHints>
+#include <QTransform>
+#include <QWheelEvent>
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+
+#include "platform/qt/canvas.h"
+#include "platform/qt/host.h"
+
+namespace onze {
+
+namespace {
+
+event::PointerPressed Pressed(const QMouseEvent& event, Pixel at, double pixel_ratio) {
+    const QStyleHints& hints = *QGuiApplication::styleHints();
+    const bool finger = event.deviceType() == QInputDevice::DeviceType::TouchScreen;
+    const int distance = finger ? hints.touchDoubleTapDistance() : hints.mouseDoubleClickDistance();
+    return {.at = at,
+            .time = static_cast<std::int64_t>(event.timestamp()),
+            .double_click_time = hints.mouseDoubleClickInterval(),
+            .double_click_distance = distance * pixel_ratio};
+}
+
+}  // namespace
+
+Window::Window(Program& program, QtHost& host) : program_(program), host_(host) {
+    timer_.setSingleShot(true);
+    timer_.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&timer_, &QTimer::timeout, this, [this] { Take(event::TimePassed()); });
+}
+
+void Window::Present() {
+    fills_screen_ = host_.desktop.fills_screen();
+    if (fills_screen_) {
+        // Where there is no window manager the state alone does nothing.
+        setGeometry(screen()->geometry());
+        showFullScreen();
+    } else {
+        resize(kPageWidth / kTwipsPerPixel, kPageHeight / kTwipsPerPixel);
+        showNormal();
+    }
+    TellSize();
+}
+
+void Window::TellSize() {
+    const QSize size = (QSizeF(this->size()) * devicePixelRatio()).toSize();
+    if (size == told_size_) return;
+    told_size_ = size;
+    Take(event::WindowResized{size.width(), size.height()});
+}
+
+void Window::Follow(const Reaction& reaction) {
+    if (reaction.state != Reaction::State::kRuns) {
+        failure_ = reaction.failure;
+        QCoreApplication::exit(reaction.state == Reaction::State::kEnded ? 0 : 1);
+        return;
+    }
+    if (fills_screen_ != host_.desktop.fills_screen()) Present();
+    if (!reaction.repaint.empty()) update(ToLogical(reaction.repaint));
+    const Qt::CursorShape shape = reaction.hand ? Qt::PointingHandCursor : Qt::ArrowCursor;
+    if (cursor().shape() != shape) setCursor(shape);
+    if (!reaction.wake_at) return timer_.stop();
+    timer_.start(
+        std::chrono::milliseconds(std::max<std::int64_t>(0, *reaction.wake_at - host_.clock.TickCount())));
+}
+
+void Window::mouseMoveEvent(QMouseEvent* event) {
+    // A release that went elsewhere.
+    if (!(event->buttons() & Qt::LeftButton)) Take(event::PointerLost());
+    Take(event::PointerMoved{PixelAt(*event)});
+}
+
+void Window::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) Take(Pressed(*event, PixelAt(*event), devicePixelRatio()));
+}
+
+void Window::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) Take(event::PointerReleased{PixelAt(*event)});
+}
+
+void Window::wheelEvent(QWheelEvent* event) {
+    Take(event::WheelTurned{PixelAt(*event), event->angleDelta().y()});
+}
+
+void Window::focusOutEvent(QFocusEvent*) {
+    Take(event::PointerLost());
+}
+
+void Window::resizeEvent(QResizeEvent*) {
+    TellSize();
+}
+
+void Window::paintEvent(QPaintEvent* event) {
+    TellSize();  // which changes with the screen's scale, too
+    const PixelBox part = ToPixels(event->region().boundingRect());
+    const QRect shown(part.left, part.top, part.width, part.height);
+    const PixelBox page = program_.view().page();
+    const QRect page_box(page.left, page.top, page.width, page.height);
+    QPainter painter(this);
+    painter.scale(1 / devicePixelRatio(), 1 / devicePixelRatio());
+    for (const QRect& bar : QRegion(shown).subtracted(page_box)) painter.fillRect(bar, Qt::black);
+    painter.setClipRect(shown & page_box);
+    QtCanvas canvas(painter, program_.view(), host_.fonts, pictures_);
+    Follow(program_.Paint(canvas, part));
+}
+
+Pixel Window::PixelAt(const QSinglePointEvent& event) const {
+    const QPointF place = event.position() * devicePixelRatio();
+    return {static_cast<int>(std::floor(place.x())), static_cast<int>(std::floor(place.y()))};
+}
+
+QRect Window::ToLogical(const PixelBox& pixels) const {
+    const QRectF box(pixels.left, pixels.top, pixels.width, pixels.height);
+    const double ratio = 1 / devicePixelRatio();
+    return QTransform::fromScale(ratio, ratio).mapRect(box).toAlignedRect();
+}
+
+PixelBox Window::ToPixels(const QRect& logical) const {
+    const double ratio = devicePixelRatio();
+    const QRect box = QTransform::fromScale(ratio, ratio).mapRect(QRectF(logical)).toAlignedRect();
+    return {box.left(), box.top(), box.width(), box.height()};
+}
+
+}  // namespace onze

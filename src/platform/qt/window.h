@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QRasterWindow>
+#include <QSinglePointEvent>
+#include <QTimer>
+
+#include "platform/qt/scaled_pictures.h"
+#include "shell/program.h"
+
+namespace onze {
+
+struct QtHost;
+
+// The one window: it shows the page, brings events to the program and wakes up when the program wants it. The
+// event loop ends when the program does.
+class Window final : public QRasterWindow {
+  public:
+    Window(Program& program, QtHost& host);
+
+    // Shows the window as the display that was asked for has it.
+    void Present();
+    // The text of what ended the program, if it failed.
+    const std::string& failure() const { return failure_; }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+  private:
+    void Take(const Event& event) { Follow(program_.Take(event)); }
+    void Follow(const Reaction& reaction);
+    void TellSize();
+
+    Pixel PixelAt(const QSinglePointEvent& event) const;
+    QRect ToLogical(const PixelBox& pixels) const;
+    PixelBox ToPixels(const QRect& logical) const;
+
+    Program& program_;
+    QtHost& host_;
+    QTimer timer_;
+    ScaledPictures pictures_;
+    QSize told_size_;  // in pixels
+    bool fills_screen_ = false;
+    std::string failure_;
+};
+
+}  // namespace onze

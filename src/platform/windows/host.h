@@ -1,0 +1,41 @@
+#pragma once
+
+#include <chrono>
+
+#include "forms/clock.h"
+#include "platform/windows/calendar.h"
+#include "platform/windows/data_files.h"
+#include "platform/windows/desktop.h"
+#include "platform/windows/fonts.h"
+#include "platform/windows/gdi_plus.h"
+#include "platform/windows/pictures.h"
+#include "platform/windows/sound_player.h"
+#include "shell/host.h"
+
+namespace onze {
+
+class SteadyClock final : public Clock {
+  public:
+    std::int64_t TickCount() const override {
+        using namespace std::chrono;
+        return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+    }
+};
+
+// All that Windows, 7 and later, offers to the program.
+struct WindowsHost {
+    explicit WindowsHost(const std::filesystem::path& datas) : files(datas) {}
+
+    GdiPlus gdi_plus;
+    Fonts fonts;
+    SteadyClock clock;
+    FolderFiles files;
+    WindowsPictures pictures;
+    WindowsSoundPlayer sound_player{files};
+    WindowsDesktop desktop;
+    WindowsCalendar calendar;
+
+    operator Host() { return {fonts, clock, files, pictures, sound_player, desktop, calendar}; }
+};
+
+}  // namespace onze

@@ -1,7 +1,0 @@
-#pragma once
-
-#include <cstddef>
-#include <span>
-
-// The strip of digit pictures, as a picture file; built from art/output/anim.png.
-extern const std::span<const std::byte> kAnim;
