@@ -102,6 +102,7 @@ void Pythagore::Prepare() {
 
 void Pythagore::colonne_Click(int i) {
     PlayClick();
+    CountPair();
     cachehaut.SetHeight((i + 2) * kPitch);
     cachelong.SetTop((i + 1) * kPitch + kGridTop);
     Choose(i, colonne);
@@ -109,6 +110,7 @@ void Pythagore::colonne_Click(int i) {
 
 void Pythagore::rangee_Click(int j) {
     PlayClick();
+    CountPair();
     cachehaut.SetLeft((j + 1) * kPitch + kGridLeft);
     cachelong.SetWidth((j + 2) * kPitch);
     Choose(j, rangee);
@@ -125,6 +127,10 @@ void Pythagore::PlayClick() {
     shared_.sounds.PlayClickSound();
 }
 
+void Pythagore::CountPair() {
+    if (PythagoreStep == 1) shared_.counters.PythagoreSolves.Raise("PythagoreSolves");
+}
+
 void Pythagore::Choose(int number, ControlArray<Label>& side) {
     for (Label& label : side) label.SetEnabled(false);
     if (PythagoreStep == 0) {
@@ -133,7 +139,6 @@ void Pythagore::Choose(int number, ControlArray<Label>& side) {
         operation.SetCaption(Digits(PythagoreFirst) + " que multiplie ?? = ??");
         return;
     }
-    shared_.counters.PythagoreSolves.Raise("PythagoreSolves");
     PythagoreStep = 0;
     PythagoreSecond = number;
     operation.SetCaption(Digits(PythagoreFirst) + " que multiplie " + Digits(PythagoreSecond) + " = " +

@@ -30,6 +30,8 @@ class Pythagore {
     void retour_Click();
 
     void PlayClick();
+    // Counts the pair that a second number makes.
+    void CountPair();
     // Takes a number into the pair and closes the side that it came from.
     void Choose(int number, ControlArray<Label>& side);
     void EnableNumbers();

@@ -31,16 +31,6 @@ def decibels(level):
     return 20 * math.log10(level)
 
 
-def pitch(sound):
-    """The strongest frequency, on a grid of quarter tones."""
-    def strength(frequency):
-        turns = [2 * math.pi * frequency * i / RATE for i in range(0, len(sound), 4)]
-        thinned = sound[::4]
-        return math.hypot(sum(s * math.cos(t) for s, t in zip(thinned, turns)),
-                          sum(s * math.sin(t) for s, t in zip(thinned, turns)))
-    return max((400 * 2 ** (step / 24) for step in range(48)), key=strength)
-
-
 class Sounds(unittest.TestCase):
     def test_each_is_safe_to_play(self):
         for ending, (_, shortest, longest) in FAMILIES.items():
@@ -61,10 +51,6 @@ class Sounds(unittest.TestCase):
             levels = [decibels(math.sqrt(sum(s * s for s in sound) / len(sound))) for sound in sounds]
             self.assertLessEqual(max(levels) - min(levels), 3, ending)
             self.assertEqual(len(set(map(tuple, sounds))), count)
-
-    def test_clicks_climb(self):
-        pitches = [pitch(samples(name)) for name in names("")]
-        self.assertEqual(pitches, sorted(set(pitches)))
 
 
 class Files(unittest.TestCase):

@@ -244,13 +244,6 @@ TEST_F(DoubleClicks, EveryFurtherPressGoesWithTheOneBefore) {
     EXPECT_EQ(clicks, 1);
 }
 
-TEST_F(DoubleClicks, OnOnePageTwoClicksStayTwo) {
-    form.Hide(), other.Show();
-    Click(kOnButton, 0);
-    Click(kOnButton, 100);
-    EXPECT_EQ(clicks, 2);
-}
-
 }  // namespace
 
 }  // namespace onze

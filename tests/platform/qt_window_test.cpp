@@ -2,7 +2,6 @@
 
 #include <QGuiApplication>
 #include <QScreen>
-#include <QStyleHints>
 #include <QWheelEvent>
 #include <QtTest/QTest>
 
@@ -88,11 +87,6 @@ TEST_F(QtWindow, TakesAFingerForThePointer) {
     EXPECT_EQ(clicks, 1);
 }
 
-TEST_F(QtWindow, TakesADoubleClickForTwoClicks) {
-    QTest::mouseDClick(&window, Qt::LeftButton, {}, On(kOnUpperHalf));
-    EXPECT_EQ(arrows.value(), 2);
-}
-
 TEST_F(QtWindow, StepsTheWheelByWholeNotches) {
     TurnWheel(kOnUpperHalf, 240);
     EXPECT_EQ(arrows.value(), 2);
@@ -136,19 +130,6 @@ TEST_F(QtWindow, EndsAPressThatItCannotFinish) {
     QCoreApplication::sendEvent(&window, &moved);
     EXPECT_FALSE(stage.NextDue());
     QTest::mouseRelease(&window, Qt::LeftButton, {}, On(kOnUpperHalf));
-}
-
-TEST_F(QtWindow, TakesADoubleClickForOnePageOnly) {
-    Form next(stage);
-    Label there(next, {100_px, 100_px, 50_px, 20_px}, "SORTIE", {});
-    there.on_click = [this] { ++clicks; };
-    button.on_click = [&] { next.Show(), form.Hide(); };
-    QTest::mouseDClick(&window, Qt::LeftButton, {}, On(kOnButton));
-    EXPECT_TRUE(next.visible());
-    EXPECT_EQ(clicks, 0);
-    QTest::mouseClick(&window, Qt::LeftButton, {}, On(kOnButton),
-                      10 * QGuiApplication::styleHints()->mouseDoubleClickInterval());
-    EXPECT_EQ(clicks, 1);
 }
 
 }  // namespace

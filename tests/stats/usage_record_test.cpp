@@ -80,7 +80,7 @@ TEST(UsageRecord, UnknownTagsAreEmpty) {
 TEST(UsageRecord, SavingMarksTheRecordAndKeepsTheBytesPastIt) {
     HeadlessHost host;
     std::string& file = host.files["18"];
-    file += "and more";
+    file += "+";
     std::string expected = file;
     expected[2] = '\1';
     for (int i = 0; i < 2; ++i) {

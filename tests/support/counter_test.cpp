@@ -8,19 +8,6 @@ namespace onze {
 
 namespace {
 
-TEST(Counter, SixteenBitsStopTheRunPastTheirLimit) {
-    std::int16_t counter = 32766;
-    Raise(counter, "PuzzleCount");
-    EXPECT_EQ(counter, 32767);
-    try {
-        Raise(counter, "PuzzleCount");
-        ADD_FAILURE() << "no overflow";
-    } catch (const RunTimeError& error) {
-        EXPECT_STREQ(error.what(), "Dépassement de capacité du compteur « PuzzleCount ».");
-    }
-    EXPECT_EQ(counter, 32767);
-}
-
 TEST(Counter, TaggedNumbersWidenAndEmptyCountsAsZero) {
     TaggedNumber number = TaggedNumber::Empty();
     EXPECT_EQ(number.value(), 0);

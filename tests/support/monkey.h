@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <random>
+#include <stdexcept>
 
 #include "shell/program.h"
 #include "support/random.h"
@@ -13,11 +14,15 @@ class SeededRandom final : public Random {
   public:
     explicit SeededRandom(unsigned seed) : engine_(seed) {}
 
-    void Randomize() override {}
-    int Draw(int bound) override { return std::uniform_int_distribution<int>(0, bound - 1)(engine_); }
+    void Randomize() override { draws_ = 0; }
+    int Draw(int bound) override {
+        if (++draws_ > 20'000'000) throw std::logic_error("draws without end");
+        return std::uniform_int_distribution<int>(0, bound - 1)(engine_);
+    }
 
   private:
     std::mt19937 engine_;
+    int draws_ = 0;  // since the last reseeding
 };
 
 // A child that does anything at all with the pointer: clicks here and there, holds, drags, turns the wheel,

@@ -4,6 +4,8 @@ import sys
 import tempfile
 from pathlib import Path
 
+sys.path.append(str(Path(__file__).parents[1] / "tests" / "acceptance"))  # which know the ways
+
 import page as at
 from installed import new_desk
 from programs import Program, install
