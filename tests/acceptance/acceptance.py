@@ -7,6 +7,7 @@ import time
 import counters
 import page as at
 from installed import Installed, main
+from programs import Program, install
 from waiting import wait_until
 
 # What the start screen's places open, in the order of the page's design, and what is counted.
@@ -75,6 +76,34 @@ class Acceptance(Installed):
         for locale in ("C", "xx_XX.UTF-8"):
             self.quit(self.start(LC_ALL=locale))
             self.assertEqual(self.file.read_bytes(), worn)
+
+    def test_of_two_copies_started_at_once_one_stays(self):
+        before = self.file.read_bytes()
+        for _ in range(20):
+            with self.program() as one, self.program(beside=True) as other:
+                self.assertTrue(wait_until(lambda: one.has_ended() or other.has_ended()))
+                first, second = (other, one) if one.has_ended() else (one, other)
+                self.assertEqual(second.wait(), 0)
+                first.wait_until_started()
+                first.kill()  # which stops no next start
+        program = self.start()
+        program.page.go(at.TABLE_OF_7, at.LEARNING)
+        program.page.back()
+        with self.program(beside=True) as second:
+            self.assertEqual(second.wait(), 0)
+        self.quit(program)
+        self.check_counted(before, {counters.of_table(7)[0]: 1})
+
+    def test_a_second_start_brings_the_first_copy_to_the_front(self):
+        program = self.start()
+        program.page.go(at.LESSONS, at.LESSONS_SCREEN)
+        pupils = install(self.source, self.folder.with_name("Zoé"))
+        with Program(self.desk, pupils, beside=True) as of_another_folder:
+            of_another_folder.page.wait_for(at.START)
+            with self.program(beside=True) as second:
+                self.assertEqual(second.wait(), 0)
+            program.page.wait_for(at.LESSONS_SCREEN)
+            self.assertFalse(of_another_folder.has_ended())
 
     def test_sounds_reach_the_sound_device(self):
         self.desk.sounds.unlink(missing_ok=True)
