@@ -14,6 +14,7 @@ from waiting import wait_until
 REPORT, EXERCISES = (at.REPORT_SCREEN, []), (at.EXERCISES_SCREEN, [])
 PYTHAGORAS = at.PYTHAGORAS_SCREEN, [counters.PYTHAGORE_CONSULTATIONS]
 LESSONS = at.LESSONS_SCREEN, [counters.LESSON_CONSULTATIONS]
+PUZZLES = 6  # exercises on all tables
 TABLES = [(at.LEARNING, [counters.of_table(table)[0]]) for table in range(2, 13)]
 OPENED = [*TABLES, PYTHAGORAS, LESSONS, EXERCISES, REPORT, PYTHAGORAS, LESSONS, EXERCISES, REPORT, REPORT, REPORT]
 
@@ -33,7 +34,7 @@ class Acceptance(Installed):
         page.back()
         self.quit(program)
         opened = {counters.of_table(7)[0]: 2, counters.PYTHAGORE_CONSULTATIONS: 1, counters.LESSON_CONSULTATIONS: 1}
-        self.check_counted(before, opened, exercises=2 * 4 + 1, puzzles=2 * 6, solves=2 * 11)
+        self.check_counted(before, opened, exercises=2 * 4 + 1, puzzles=2 * PUZZLES, solves=2 * 11)
 
     def check_counted(self, before, others, exercises=0, puzzles=0, solves=0):
         """What was counted: exercises of the table of 7 and puzzles, each with a verdict, and solves, some of them but
