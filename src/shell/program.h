@@ -37,6 +37,7 @@ class Program {
     void On(const event::PointerPressed& pressed);
     void On(const event::PointerReleased& released);
     void On(const event::PointerLost&) { stage_.CancelPress(); }
+    void On(const event::KeyPressed& pressed) { stage_.Press(pressed.press); }
     void On(const event::WheelTurned& turned);
 
     // Takes a step while the program runs; the one place that catches.

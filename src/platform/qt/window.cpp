@@ -13,6 +13,7 @@
 
 #include "platform/qt/canvas.h"
 #include "platform/qt/host.h"
+#include "platform/qt/keys.h"
 
 namespace onze {
 
@@ -90,6 +91,10 @@ void Window::mousePressEvent(QMouseEvent* event) {
 
 void Window::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) Take(event::PointerReleased{PixelAt(*event)});
+}
+
+void Window::keyPressEvent(QKeyEvent* event) {
+    if (const auto press = KeyPressOf(*event)) Take(event::KeyPressed{*press});
 }
 
 void Window::wheelEvent(QWheelEvent* event) {

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "platform/windows/canvas.h"
+#include "platform/windows/keys.h"
 
 namespace onze {
 
@@ -143,6 +144,9 @@ LRESULT Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
             return 0;
         case WM_LBUTTONUP:
             Release(PixelOf(lparam));
+            return 0;
+        case WM_KEYDOWN:
+            if (const auto press = KeyPressOf(wparam, lparam)) Take(event::KeyPressed{*press});
             return 0;
         case WM_CAPTURECHANGED:
             LoseCapture();
