@@ -99,6 +99,26 @@ void Stage::Wheel(Point point, int notches) {
     }
 }
 
+Point Stage::NearestTarget(Point point, int least) const {
+    if (!front() || ReactsToClickAt(point)) return point;
+    Point nearest = point;
+    std::optional<int> distance;
+    for (const Control* control : front()->controls()) {
+        const Rect box = control->HitBox();
+        const int across = std::max(0, (least - box.width + 1) / 2);
+        const int up = std::max(0, (least - box.height + 1) / 2);
+        if (!control->TakesPointer() || !control->TakesClicks() || !box.Grown({across, up}).Contains(point))
+            continue;
+        const Point inside{std::clamp(point.x, box.left, box.right() - 1),
+                           std::clamp(point.y, box.top, box.bottom() - 1)};
+        const int away = std::max(std::abs(inside.x - point.x), std::abs(inside.y - point.y));
+        if (front()->ControlAt(inside) != control || (distance && *distance <= away)) continue;
+        nearest = inside;
+        distance = away;
+    }
+    return nearest;
+}
+
 bool Stage::ReactsToClickAt(Point point) const {
     const Control* control = front() ? front()->ControlAt(point) : nullptr;
     return control && control->TakesClicks();

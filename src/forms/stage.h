@@ -43,6 +43,9 @@ class Stage {
     void CancelPress();
     void Wheel(Point point, int notches);
     void Press(const KeyPress& press);
+    // The point itself where a click would do something, else the nearest one of a target that is, for a
+    // finger, no less than so wide and high; the point itself where there is none.
+    Point NearestTarget(Point point, int least) const;
     // Whether a click at this point would do something, for the pointer's looks.
     bool ReactsToClickAt(Point point) const;
 

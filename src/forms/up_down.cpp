@@ -63,8 +63,7 @@ bool UpDown::EnterText(std::string_view typed) {
     const std::string wanted = Plain(typed);
     const bool number = IsNumber(wanted);
     if (number != IsNumber(Plain(text_of(value_)))) return false;
-    for (int value = value_ - (value_ - range_.minimum) / increment_ * increment_; value <= range_.maximum;
-         value += increment_) {
+    for (int value = range_.minimum; value <= range_.maximum; value += increment_) {
         const std::string text = Plain(text_of(value));
         if (number ? text != wanted : !text.starts_with(wanted)) continue;
         Enter(value);

@@ -29,6 +29,7 @@ struct PointerMoved {
 // than this time and this many pixels apart.
 struct PointerPressed {
     Pixel at;
+    bool finger = false;         // which covers more than a point
     std::int64_t time = 0;       // milliseconds of the clock that the system's events have
     int double_click_time = -1;  // milliseconds; below 0: no two presses are one gesture
     double double_click_distance = 0;

@@ -109,6 +109,7 @@ TEST_F(Keyboard, ArrowKeysWalkTheNumbers) {
     // All numbers are closed: it waits there, until they are open again.
     EXPECT_EQ(focused(), &page.rangee[7]);
     pupil.Press(Key::kClick);
+    EXPECT_EQ(page.operation.caption(), "8 que multiplie 7 = 56");
     pupil.Wait(20000);
     EXPECT_EQ(focused(), &page.rangee[7]);
     EXPECT_TRUE(page.rangee[7].enabled());
@@ -158,13 +159,16 @@ TEST_F(Keyboard, DigitsLettersAndSignsAreEntered) {
     const std::string first = std::to_string(page.factoring.ui.fleche.minimum());
     EXPECT_EQ(factor.caption(), "??");
     EXPECT_EQ(enter(factor, "99"), "9, 1") << "the second digit leads out of reach";
+    EXPECT_EQ(enter(factor, "07"), "7, 2") << "a zero, then more";
+    EXPECT_EQ(enter(factor, "7"), "7, 0");
     EXPECT_EQ(enter(factor, "12"), "12, 2");
     EXPECT_EQ(enter(factor, "x-A"), "12, 0");
     EXPECT_EQ(enter(page.letter_code.ui.chiffre4, "z"), "Z, 1");
-    EXPECT_EQ(enter(page.letter_code.ui.chiffre4, "5"), "Z, 0");
+    EXPECT_EQ(enter(page.letter_code.ui.chiffre4, "5b"), "B, 1");
     EXPECT_EQ(enter(page.missing_sign.ui.signe, "-"), "-, 1");
     EXPECT_EQ(enter(page.missing_sign.ui.signe, "x"), "X, 1");
     EXPECT_EQ(enter(page.missing_sign.ui.signe, "+"), "+, 1");
+    EXPECT_EQ(enter(page.missing_sign.ui.signe, "*"), "X, 1");
 
     // The sign's key writes a minus on some layouts where others have a six.
     const auto six = event::KeyPressed{{.key = Key::kCharacter, .character = '-', .digit = '6'}};

@@ -24,6 +24,7 @@ event::PointerPressed Pressed(const QMouseEvent& event, Pixel at, double pixel_r
     const bool finger = event.deviceType() == QInputDevice::DeviceType::TouchScreen;
     const int distance = finger ? hints.touchDoubleTapDistance() : hints.mouseDoubleClickDistance();
     return {.at = at,
+            .finger = finger,
             .time = static_cast<std::int64_t>(event.timestamp()),
             .double_click_time = hints.mouseDoubleClickInterval(),
             .double_click_distance = distance * pixel_ratio};
