@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "forms/stage.h"
 #include "forms/up_down.h"
 
 namespace onze {
@@ -68,6 +69,32 @@ std::string InWords(std::string_view text) {
         begin = end + 1;
     }
     return words;
+}
+
+ReadingNews ReadingWatch::Look(const Stage& stage, std::string_view said) {
+    ReadingNews news;
+    const Form* const page = stage.front();
+    const Control* const focused = stage.focused();
+    if (!page) return news;
+    news.page = page != page_;
+    const std::string lines = "\n" + std::string(said) + "\n";
+    std::string value;
+    for (const ReadControl& read : ReadPage(*page)) {
+        const bool message = read.control->role() == Role::kMessage;
+        if (message && lines.find("\n" + read.control->name() + "\n") != std::string::npos)
+            news.messages.push_back(read.control);
+        if (read.control != focused) continue;
+        value = read.value;
+        if (focused != focused_) {
+            news.focused = read.control;
+        } else if (value != value_) {
+            news.entered = read.control;
+        }
+    }
+    page_ = page;
+    focused_ = focused;
+    value_ = value;
+    return news;
 }
 
 std::vector<ReadControl> ReadPage(const Form& page) {

@@ -75,10 +75,6 @@ struct Reaction {
     bool hand = false;                    // whether the pointer shows that a click would do something
     std::optional<std::int64_t> wake_at;  // the tick at which TimePassed is due
     std::string say;                      // to a screen reader: the messages that changed, a line each
-
-    bool Says(const std::string& message) const {
-        return ("\n" + say + "\n").find("\n" + message + "\n") != std::string::npos;
-    }
 };
 
 }  // namespace onze

@@ -123,29 +123,17 @@ QRect AccessiblePage::Place(const Control& control) const {
 }
 
 void AccessiblePage::Tell(const Reaction& reaction) {
-    const Stage& stage = program_.stage();
-    if (page_ != stage.front()) {
-        page_ = stage.front();
-        Send(this, QAccessible::NameChanged);
-        Send(this, QAccessible::ObjectReorder);
+    const ReadingNews news = watch_.Look(program_.stage(), reaction.say);
+    if (news.page) Send(this, QAccessible::ObjectReorder);
+    for (Control* message : news.messages) {
+        Send(Of(*message), QAccessible::NameChanged);
+        Send(Of(*message), QAccessible::Alert);
     }
-    if (!reaction.say.empty()) {
-        for (const ReadControl& read : ReadPage(*stage.front())) {
-            if (read.control->role() != Role::kMessage || !reaction.Says(read.control->name())) continue;
-            Send(Of(*read.control), QAccessible::NameChanged);
-            Send(Of(*read.control), QAccessible::Alert);
-        }
-    }
-    QAccessibleInterface* const focus = focusChild();
-    const QString value = focus ? focus->text(QAccessible::Value) : QString();
-    if (focus && focused_ != stage.focused()) {
-        Send(focus, QAccessible::Focus);
-    } else if (focus && value != value_) {
-        QAccessibleValueChangeEvent event(focus, value);
-        QAccessible::updateAccessibility(&event);
-    }
-    focused_ = stage.focused();
-    value_ = value;
+    if (news.focused) Send(Of(*news.focused), QAccessible::Focus);
+    if (!news.entered) return;
+    QAccessibleInterface* const answer = Of(*news.entered);
+    QAccessibleValueChangeEvent event(answer, answer->text(QAccessible::Value));
+    QAccessible::updateAccessibility(&event);
 }
 
 QObject* AccessiblePage::object() const {

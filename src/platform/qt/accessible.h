@@ -4,6 +4,7 @@
 #include <QWindow>
 #include <map>
 
+#include "forms/reading.h"
 #include "shell/program.h"
 
 namespace onze {
@@ -44,9 +45,7 @@ class AccessiblePage final : public QAccessibleInterface {
     Window& window_;
     Program& program_;
     mutable std::map<Control*, QAccessible::Id> controls_;
-    const Form* page_ = nullptr;
-    const Control* focused_ = nullptr;
-    QString value_;  // of what has the focus
+    ReadingWatch watch_;
 };
 
 }  // namespace onze

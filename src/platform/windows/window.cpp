@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "platform/windows/accessible.h"
 #include "platform/windows/canvas.h"
 #include "platform/windows/keys.h"
 
@@ -82,6 +83,9 @@ Window::Window(Program& program, WindowsHost& host) : program_(program), host_(h
 
 Window::~Window() {
     if (handle_) DestroyWindow(handle_);
+    if (!accessible_) return;
+    accessible_->Leave();
+    accessible_->Release();
 }
 
 void Window::Run() {
@@ -114,6 +118,7 @@ void Window::Follow(const Reaction& reaction) {
         failure_ = reaction.failure;
         return;
     }
+    if (accessible_) accessible_->Tell(reaction);
     if (!reaction.repaint.empty()) {
         const PixelBox& box = reaction.repaint;
         const RECT pixels{box.left, box.top, box.right(), box.bottom()};
@@ -153,6 +158,10 @@ LRESULT Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         case WM_KEYDOWN:
             if (const auto press = KeyPressOf(wparam, lparam)) Take(event::KeyPressed{*press});
             return 0;
+        case WM_GETOBJECT:
+            if (static_cast<LONG>(lparam) != OBJID_CLIENT) break;
+            if (!accessible_) accessible_ = new AccessiblePage(*this, program_);
+            return accessible_->Give(wparam);
         case WM_CAPTURECHANGED:
             LoseCapture();
             return 0;

@@ -10,6 +10,8 @@
 
 namespace onze {
 
+class AccessiblePage;
+
 // The one window: the page without any border, in the middle of the screen, or all of it on a screen of the
 // page's size.
 class Window {
@@ -26,12 +28,12 @@ class Window {
     void Run();
     // The text of what ended the program, if it failed.
     const std::string& failure() const { return failure_; }
+    void Take(const Event& event) { Follow(program_.Take(event)); }
 
   private:
     static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam);
     LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam);
 
-    void Take(const Event& event) { Follow(program_.Take(event)); }
     void Follow(const Reaction& reaction);
     bool Running() const { return handle_ && runs_; }
     void WaitForWork() const;
@@ -54,6 +56,7 @@ class Window {
     bool runs_ = true;
     std::optional<std::int64_t> wake_at_;
     std::string failure_;
+    AccessiblePage* accessible_ = nullptr;  // since a reader has asked for it
 };
 
 }  // namespace onze
