@@ -10,17 +10,18 @@ namespace onze {
 
 namespace {
 
-// Found only when a reader asks, so that no start waits for the library.
+// Found only when a reader asks, so that no start waits for the libraries.
 template <class Function>
-Function FromLibrary(const char* name) {
-    const HMODULE library = LoadLibraryW(L"oleacc.dll");
+Function Find(const wchar_t* in, const char* name) {
+    const HMODULE library = LoadLibraryW(in);
     return library ? reinterpret_cast<Function>(reinterpret_cast<void (*)()>(GetProcAddress(library, name)))
                    : nullptr;
 }
 
 HRESULT Write(const std::string& text, BSTR* to) {
-    *to = text.empty() ? nullptr : SysAllocString(ToWide(text).c_str());
-    return text.empty() ? S_FALSE : S_OK;
+    static const auto allocate = Find<decltype(&SysAllocString)>(L"oleaut32.dll", "SysAllocString");
+    *to = text.empty() || !allocate ? nullptr : allocate(ToWide(text).c_str());
+    return *to ? S_OK : S_FALSE;
 }
 
 HRESULT Write(LONG number, VARIANT* to) {
@@ -46,7 +47,7 @@ AccessiblePage::AccessiblePage(Window& window, Program& program) : window_(&wind
 AccessiblePage::~AccessiblePage() = default;
 
 LRESULT AccessiblePage::Give(WPARAM wparam) {
-    static const auto give = FromLibrary<decltype(&LresultFromObject)>("LresultFromObject");
+    static const auto give = Find<decltype(&LresultFromObject)>(L"oleacc.dll", "LresultFromObject");
     return give ? give(__uuidof(IAccessible), wparam, this) : 0;
 }
 
@@ -107,7 +108,8 @@ STDMETHODIMP_(ULONG) AccessiblePage::Release() {
 }
 
 STDMETHODIMP AccessiblePage::get_accParent(IDispatch** parent) {
-    static const auto find = FromLibrary<decltype(&AccessibleObjectFromWindow)>("AccessibleObjectFromWindow");
+    static const auto find =
+        Find<decltype(&AccessibleObjectFromWindow)>(L"oleacc.dll", "AccessibleObjectFromWindow");
     *parent = nullptr;
     if (!find || !window_) return S_FALSE;
     return find(window_->handle(), static_cast<DWORD>(OBJID_WINDOW), IID_IDispatch,
