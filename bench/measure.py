@@ -209,6 +209,9 @@ def main():
         arguments.add_argument(name, type=lambda file: Path(file).resolve())
     arguments.add_argument("--rounds", type=int, default=9)
     arguments.add_argument("--idle-seconds", type=int, default=60)
+    earlier = "an earlier build of the program, to be measured beside it"
+    for option in ("--earlier-linux", "--earlier-windows"):
+        arguments.add_argument(option, type=lambda file: Path(file).resolve(), nargs=1, default=[], help=earlier)
     arguments.add_argument("--only", choices=["linux", "windows"])
     given = arguments.parse_args()
 
@@ -220,12 +223,14 @@ def main():
             environment = desk.environment(SDL_AUDIODRIVER="dummy")
             screen = Screen(Path(memory, "Xvfb_screen0"), environment["DISPLAY"])
             if given.only != "windows":
-                subjects = linux_subjects(given.program, given.floor, Path(scratch, "linux"))
+                subjects = linux_subjects(given.program, given.earlier_linux, given.floor, Path(scratch, "linux"))
                 bench = Bench(screen, environment, given.rounds, given.idle_seconds)
                 print_table(subjects, bench.measure(subjects))
             if given.only != "linux":
                 with WineDesktop(desk, Path(scratch, "wine")) as wine:
-                    subjects = windows_subjects(given.windows_program, Path(scratch, "windows"), wine.prefix)
+                    subjects = windows_subjects(
+                        given.windows_program, given.earlier_windows, Path(scratch, "windows"), wine.prefix
+                    )
                     bench = Bench(screen, wine.environment, given.rounds, given.idle_seconds, wine.server)
                     print_table(subjects, bench.measure(subjects))
     if processes.was_busy():

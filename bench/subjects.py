@@ -37,10 +37,10 @@ def scaled(place, scale):
     return tuple(round(part * scale) for part in place)
 
 
-def onze_tables(command, executable, scale):
+def onze_tables(command, executable, scale, name="Onze Tables"):
     click, back, leave = (scaled(place, scale) for place in (at.TABLE_OF_7, at.BACK, at.QUIT))
     return Subject(
-        "Onze Tables",
+        name,
         [*command, str(executable)],
         [executable],
         list((executable.parent / "datas").iterdir()),
@@ -63,27 +63,35 @@ def debian_program(executable, *packages, **more):
     return Subject(executable, [str(program), *more.pop("options", ())], [program], others, **more)
 
 
-def linux_subjects(program, floor, folder):
+def builds(command, program, earlier, folder, scale):
+    """The program, and an earlier build of it where one is given."""
+    now = onze_tables(command, install(program, folder / "Onze Tables"), scale)
+    before = [onze_tables(command, install(file, folder / "earlier"), scale, "earlier") for file in earlier]
+    return now, before
+
+
+def linux_subjects(program, earlier, floor, folder):
     picture = ROOT / "datas" / "15"
     middle = (320, 240)
+    now, before = builds([], program, earlier, folder, Desk.SCALE)
     return [
-        onze_tables([], install(program, folder / "Onze Tables"), Desk.SCALE),
+        now,
         Subject("bare Qt window", [str(floor), str(picture)], [floor], [picture], click=middle, back=middle),
         debian_program("kbruch", "kbruch", click=(290, 300)),
         debian_program(
             "tuxmath", "tuxmath", "tuxmath-data", options=["--windowed"], settle=9, click=(420, 214)
         ),
+        *before,
     ]
 
 
-def windows_subjects(program, folder, prefix):
+def windows_subjects(program, earlier, folder, prefix):
     wine = ["/usr/lib/wine/wine64"]
     notepad = prefix / "drive_c" / "windows" / "system32" / "notepad.exe"
     file_menu = (16, 33)
-    return [
-        onze_tables(wine, install(program, folder / "Onze Tables"), WineDesk.SCALE),
-        Subject("Wine's notepad", [*wine, str(notepad)], [notepad], click=file_menu, back=file_menu),
-    ]
+    now, before = builds(wine, program, earlier, folder, WineDesk.SCALE)
+    floor = Subject("Wine's notepad", [*wine, str(notepad)], [notepad], click=file_menu, back=file_menu)
+    return [now, floor, *before]
 
 
 class WineDesktop:

@@ -1,4 +1,4 @@
-"""The exercises screen: a sheet for each of the six exercises, with the gaps that the dividing lines run through."""
+"""The exercises screen: a sheet for each exercise, with the gaps that the dividing lines run through."""
 
 from lib import fox
 from lib.palette import CORAL, FOX, INK, LEAF, PLUM, SEA, SUN, TEAL, WOOD, shade, tint

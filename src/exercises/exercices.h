@@ -10,7 +10,7 @@
 
 namespace onze {
 
-// The exercises screen: six exercises on all tables, in any order, each in an area of its own.
+// The exercises screen: exercises on all tables, in any order, each in an area of its own.
 class Exercices {
     PuzzleTally tally_;
 

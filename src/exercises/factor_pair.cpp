@@ -59,8 +59,8 @@ void FactorPairPanel::chiffre4_Click() {
     if (question_.IsDivisor(*ui.first.entered())) {
         AskForSecondFactor();
     } else {
-        exercise_.Correct(false, question_.TableCorrection(),
-                          {kCountVerdict, kCountExercise, kPlay, kTell, kOffer});
+        exercise_.GiveVerdict(false, question_.TableCorrection(),
+                              {kCountVerdict, kCountExercise, kPlay, kTell, kOffer});
     }
 }
 
@@ -82,8 +82,8 @@ void FactorPairPanel::chiffre5_Click() {
     if (!exercise_.AnswerGuard({&ui.second})) return;
     const int divisor = *ui.first.entered();
     const bool right = question_.IsRight(divisor, *ui.second.entered());
-    exercise_.Correct(right, question_.Correction(right, divisor),
-                      {kClose, kCountVerdict, kPlay, kTell, kCountExercise, kOffer});
+    exercise_.GiveVerdict(right, question_.Correction(right, divisor),
+                          {kClose, kCountVerdict, kPlay, kTell, kCountExercise, kOffer});
 }
 
 }  // namespace onze

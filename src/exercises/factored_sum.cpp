@@ -56,8 +56,8 @@ void FactoredSumPanel::chiffre7_Click() {
     using enum Step;
     if (!exercise_.AnswerGuard({&ui.cofactor, &ui.result})) return;
     const bool right = question_.IsRight(*ui.cofactor.entered(), *ui.result.entered());
-    exercise_.Correct(right, question_.Correction(right),
-                      {kClose, kOffer, kCountVerdict, kPlay, kTell, kCountExercise});
+    exercise_.GiveVerdict(right, question_.Correction(right),
+                          {kClose, kOffer, kCountVerdict, kPlay, kTell, kCountExercise});
 }
 
 }  // namespace onze

@@ -5,7 +5,7 @@
 
 namespace onze {
 
-// What the six exercises look like.
+// What the exercises of this screen look like. What a caption holds before the first question is never seen.
 
 inline constexpr Font kExerciseFont{8.25_pt, true};
 

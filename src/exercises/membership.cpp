@@ -70,7 +70,8 @@ void MembershipPanel::oui_Click() {
     if (shared_.MembershipAnswer == 1) {
         AskForFactor();
     } else {
-        exercise_.Correct(false, question_.AfterOui(), {kCountVerdict, kPlay, kTell, kOffer, kCountExercise});
+        exercise_.GiveVerdict(false, question_.AfterOui(),
+                              {kCountVerdict, kPlay, kTell, kOffer, kCountExercise});
     }
 }
 
@@ -87,16 +88,16 @@ void MembershipPanel::non_Click() {
     using enum Step;
     exercise_.CountExercise();
     SetAllVisible(false, {&ui.oui, &ui.non});
-    exercise_.Correct(shared_.MembershipAnswer == 0, question_.AfterNon(),
-                      {kOffer, kPlay, kTell, kCountVerdict});
+    exercise_.GiveVerdict(shared_.MembershipAnswer == 0, question_.AfterNon(),
+                          {kOffer, kPlay, kTell, kCountVerdict});
 }
 
 void MembershipPanel::chiffre2_Click() {
     using enum Step;
     if (!exercise_.AnswerGuard({&ui.factor})) return;
     const bool right = question_.IsRight(*ui.factor.entered());
-    exercise_.Correct(right, question_.Correction(right),
-                      {kClose, kCountVerdict, kPlay, kTell, kOffer, kCountExercise});
+    exercise_.GiveVerdict(right, question_.Correction(right),
+                          {kClose, kCountVerdict, kPlay, kTell, kOffer, kCountExercise});
 }
 
 }  // namespace onze

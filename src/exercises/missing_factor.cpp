@@ -41,9 +41,9 @@ void MissingFactorPanel::chiffre6_Click() {
     const bool right = question_.IsRight(*ui.factor.entered());
     const std::string text = question_.Correction(right);
     if (right) {
-        exercise_.Correct(right, text, {kPlay, kTell, kCountVerdict, kCountExercise, kOffer, kClose});
+        exercise_.GiveVerdict(right, text, {kPlay, kTell, kCountVerdict, kCountExercise, kOffer, kClose});
     } else {
-        exercise_.Correct(right, text, {kCountVerdict, kPlay, kTell, kCountExercise, kOffer, kClose});
+        exercise_.GiveVerdict(right, text, {kCountVerdict, kPlay, kTell, kCountExercise, kOffer, kClose});
     }
 }
 

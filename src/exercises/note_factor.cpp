@@ -48,9 +48,9 @@ void NoteFactorPanel::chiffre9_Click() {
     using enum Step;
     if (!exercise_.AnswerGuard({&ui.note})) return;
     if (question_.IsRight(*ui.note.entered())) {
-        exercise_.Correct(true, "Bravo ! ", {kClose, kOffer, kTell, kPlay, kCountVerdict});
+        exercise_.GiveVerdict(true, "Bravo ! ", {kClose, kOffer, kTell, kPlay, kCountVerdict});
     } else {
-        exercise_.Correct(false, "Erreur ! ", {kClose, kOffer, kCountVerdict, kPlay, kTell});
+        exercise_.GiveVerdict(false, "Erreur ! ", {kClose, kOffer, kCountVerdict, kPlay, kTell});
     }
     shared_.NoteName = NoteFactorQuestion::NoteOf(question_.NoteFactor);
     ui.texte5.SetCaption(ui.texte5.caption() + question_.Explanation(shared_.NoteName));

@@ -39,8 +39,8 @@ void ProductPanel::chiffre3_Click() {
     using enum Step;
     if (!exercise_.AnswerGuard({&ui.product})) return;
     const bool right = question_.IsRight(*ui.product.entered());
-    exercise_.Correct(right, question_.Correction(right),
-                      {kOffer, kClose, kCountVerdict, kPlay, kTell, kCountExercise});
+    exercise_.GiveVerdict(right, question_.Correction(right),
+                          {kOffer, kClose, kCountVerdict, kPlay, kTell, kCountExercise});
 }
 
 }  // namespace onze

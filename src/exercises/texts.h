@@ -7,7 +7,7 @@
 
 namespace onze {
 
-// Texts that several of the six exercises have in common.
+// Texts that several of the exercises have in common.
 
 inline const std::string kEnterAnswerOnTwoLines =
     "Entrez votre réponse grâce aux flèches puis\rcliquez sur cette réponse pour la correction.";

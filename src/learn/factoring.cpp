@@ -53,8 +53,8 @@ void FactoringPanel::chiffre_Click() {
     using enum Step;
     if (!exercise_.AnswerGuard({&ui.factor})) return;
     const bool right = question_.IsRight(*ui.factor.entered());
-    exercise_.Correct(right, question_.Correction(right),
-                      {kCountExercise, kOffer, kClose, kPlay, kCountVerdict, kTell});
+    exercise_.GiveVerdict(right, question_.Correction(right),
+                          {kCountExercise, kOffer, kClose, kPlay, kCountVerdict, kTell});
 }
 
 }  // namespace onze

@@ -36,8 +36,8 @@ void LetterCodePanel::chiffre4_Click() {
     using enum Step;
     if (!exercise_.AnswerGuard({&ui.letter})) return;
     const bool right = question_.IsRight(*ui.letter.entered());
-    exercise_.Correct(right, question_.Correction(right),
-                      {kCountExercise, kClose, kOffer, kPlay, kCountVerdict, kTell});
+    exercise_.GiveVerdict(right, question_.Correction(right),
+                          {kCountExercise, kClose, kOffer, kPlay, kCountVerdict, kTell});
 }
 
 }  // namespace onze

@@ -71,8 +71,8 @@ void MissingSignPanel::signe_Click() {
     using enum Step;
     if (!exercise_.AnswerGuard({&ui.sign})) return;
     const bool right = question_.IsRight(*ui.sign.entered());
-    exercise_.Correct(right, question_.Correction(right),
-                      {kCountExercise, kClose, kOffer, kCountVerdict, kPlay, kTell});
+    exercise_.GiveVerdict(right, question_.Correction(right),
+                          {kCountExercise, kClose, kOffer, kCountVerdict, kPlay, kTell});
 }
 
 }  // namespace onze

@@ -88,7 +88,8 @@ void MultiplePanel::oui_Click() {
     if (question_.SumIsMultiple) {
         AskForProduct();
     } else {
-        exercise_.Correct(false, question_.AfterOui(), {kPlay, kCountVerdict, kTell, kCountExercise, kOffer});
+        exercise_.GiveVerdict(false, question_.AfterOui(),
+                              {kPlay, kCountVerdict, kTell, kCountExercise, kOffer});
     }
 }
 
@@ -109,7 +110,7 @@ void MultiplePanel::non_Click() {
     const bool right = !question_.SumIsMultiple;
     exercise_.CountExercise();
     SetAllVisible(false, {&ui.oui, &ui.non});
-    exercise_.Correct(right, question_.AfterNon(), {kPlay, kCountVerdict, kTell, kOffer});
+    exercise_.GiveVerdict(right, question_.AfterNon(), {kPlay, kCountVerdict, kTell, kOffer});
 }
 
 void MultiplePanel::chiffre2_Click() {
@@ -118,9 +119,9 @@ void MultiplePanel::chiffre2_Click() {
     const bool right = question_.IsRightProduct(*ui.factor.entered(), *ui.sum.entered());
     const std::string text = question_.ProductCorrection(right);
     if (right) {
-        exercise_.Correct(right, text, {kCountExercise, kClose, kOffer, kCountVerdict, kPlay, kTell});
+        exercise_.GiveVerdict(right, text, {kCountExercise, kClose, kOffer, kCountVerdict, kPlay, kTell});
     } else {
-        exercise_.Correct(right, text, {kCountExercise, kClose, kOffer, kPlay, kCountVerdict, kTell});
+        exercise_.GiveVerdict(right, text, {kCountExercise, kClose, kOffer, kPlay, kCountVerdict, kTell});
     }
 }
 

@@ -17,7 +17,7 @@ class Pictures {
     // cannot be read, or not the whole of it. The name is for a host that has decoded all of them before the
     // start.
     virtual PicturePtr Decode(std::string_view name, std::span<const std::byte> file) = 0;
-    // The part of a picture, in its pixels, that lies inside it whole.
+    // A part of a picture, which lies inside it, in its pixels; null when it cannot be made.
     virtual PicturePtr Clip(const Picture& picture, int x, int y, int width, int height) = 0;
 };
 

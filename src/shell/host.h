@@ -12,13 +12,13 @@ class TextMeasure;
 
 // What the program needs of the system it runs on. None of it throws.
 struct Host {
-    TextMeasure& text_measure;
-    const Clock& clock;
-    DataFiles& files;
-    Pictures& pictures;
-    SoundPlayer& sound_player;
-    Desktop& desktop;
-    const Calendar& calendar;
+    TextMeasure& text_measure;  // forms/text_measure.h
+    const Clock& clock;         // forms/clock.h
+    DataFiles& files;           // services/data_files.h
+    Pictures& pictures;         // services/pictures.h
+    SoundPlayer& sound_player;  // services/sound_player.h
+    Desktop& desktop;           // services/desktop.h
+    const Calendar& calendar;   // services/calendar.h
 };
 
 }  // namespace onze

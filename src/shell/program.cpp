@@ -10,6 +10,19 @@ constexpr std::uint32_t kHideWindow = 0x80;
 constexpr std::uint32_t kShowWindow = 0x40;
 constexpr int kNotch = 120;
 
+// Takes a step when its block is left, in whatever way.
+template <class Step>
+class AtEnd {
+  public:
+    explicit AtEnd(Step step) : step_(step) {}
+    AtEnd(const AtEnd&) = delete;
+    AtEnd& operator=(const AtEnd&) = delete;
+    ~AtEnd() { step_(); }
+
+  private:
+    Step step_;
+};
+
 }  // namespace
 
 Program::Program(const Host& host, Random& random)
@@ -117,9 +130,12 @@ void Program::SetTaskbar(std::uint32_t flags) {
 
 void Program::fin_Click() {
     sounds_.PlayNavigationSound("5");
+    // The machine must be usable, also where the counters could not be saved.
+    const AtEnd put_back([this] {
+        display_.SetDisplayResolution(SavedScreenWidth, SavedScreenHeight);
+        SetTaskbar(kShowWindow);
+    });
     SaveUsageRecord(host_.files, record_);
-    display_.SetDisplayResolution(SavedScreenWidth, SavedScreenHeight);
-    SetTaskbar(kShowWindow);
     state_ = Reaction::State::kEnded;
 }
 

@@ -15,7 +15,7 @@ bool Exercise::AnswerGuard(std::initializer_list<const Answer*> answers) const {
                                              [](const Answer* answer) { return answer->entered(); });
 }
 
-void Exercise::Correct(bool right, const std::string& text, std::initializer_list<Step> steps) {
+void Exercise::GiveVerdict(bool right, const std::string& text, std::initializer_list<Step> steps) {
     for (const Step step : steps) Take(step, right, text);
 }
 

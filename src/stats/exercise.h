@@ -33,7 +33,7 @@ class Exercise {
     bool AnswerGuard(std::initializer_list<const Answer*> answers) const;
     void CountExercise() { tally_.CountExercise(); }
     // Takes the steps of a correction, in this order.
-    void Correct(bool right, const std::string& text, std::initializer_list<Step> steps);
+    void GiveVerdict(bool right, const std::string& text, std::initializer_list<Step> steps);
 
   private:
     void Take(Step step, bool right, const std::string& text);

@@ -98,8 +98,6 @@ class Writer {
     std::vector<std::byte> bytes_;
 };
 
-constexpr std::string_view kFile = "18";
-
 }  // namespace
 
 std::vector<std::byte> ToBytes(const UsageRecord& record) {
@@ -116,19 +114,21 @@ UsageRecord FromBytes(std::span<const std::byte> bytes) {
 }
 
 UsageRecord LoadUsageRecord(DataFiles& files) {
-    const auto bytes = files.Read(kFile);
-    if (!bytes) throw FileError("Fichier des compteurs introuvable ou illisible", files.PlaceOf(kFile));
+    const auto bytes = files.Read(kCountersFile);
+    if (!bytes)
+        throw FileError("Fichier des compteurs introuvable ou illisible", files.PlaceOf(kCountersFile));
     return FromBytes(*bytes);
 }
 
 void SaveUsageRecord(DataFiles& files, UsageRecord& record) {
     record.reserved_value = TaggedNumber::Integer(1);
     std::vector<std::byte> bytes = ToBytes(record);
-    const auto old = files.Read(kFile);
+    const auto old = files.Read(kCountersFile);
     if (old && old->size() > bytes.size()) {
         bytes.insert(bytes.end(), old->begin() + static_cast<std::ptrdiff_t>(bytes.size()), old->end());
     }
-    if (!files.Replace(kFile, bytes)) throw FileError("Enregistrement impossible", files.PlaceOf(kFile));
+    if (!files.Replace(kCountersFile, bytes))
+        throw FileError("Enregistrement impossible", files.PlaceOf(kCountersFile));
 }
 
 }  // namespace onze

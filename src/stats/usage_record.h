@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "services/data_files.h"
@@ -24,8 +25,10 @@ struct UsageRecord {
 std::vector<std::byte> ToBytes(const UsageRecord& record);
 UsageRecord FromBytes(std::span<const std::byte> bytes);
 
-// The file of the counters, "18". Both throw RunTimeError, naming the file, when it cannot be read or
-// written.
+// The file of the counters.
+inline constexpr std::string_view kCountersFile = "18";
+
+// Both throw RunTimeError, naming the file, when it cannot be read or written.
 UsageRecord LoadUsageRecord(DataFiles& files);
 // Marks the record as saved once. Bytes of the old file past the end of the record are kept.
 void SaveUsageRecord(DataFiles& files, UsageRecord& record);

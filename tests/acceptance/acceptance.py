@@ -7,12 +7,14 @@ import time
 import counters
 import page as at
 from installed import Installed, main
+from programs import Program, install
 from waiting import wait_until
 
 # What the start screen's places open, in the order of the page's design, and what is counted.
 REPORT, EXERCISES = (at.REPORT_SCREEN, []), (at.EXERCISES_SCREEN, [])
 PYTHAGORAS = at.PYTHAGORAS_SCREEN, [counters.PYTHAGORE_CONSULTATIONS]
 LESSONS = at.LESSONS_SCREEN, [counters.LESSON_CONSULTATIONS]
+PUZZLES = 6  # exercises on all tables
 TABLES = [(at.LEARNING, [counters.of_table(table)[0]]) for table in range(2, 13)]
 OPENED = [*TABLES, PYTHAGORAS, LESSONS, EXERCISES, REPORT, PYTHAGORAS, LESSONS, EXERCISES, REPORT, REPORT, REPORT]
 
@@ -32,7 +34,7 @@ class Acceptance(Installed):
         page.back()
         self.quit(program)
         opened = {counters.of_table(7)[0]: 2, counters.PYTHAGORE_CONSULTATIONS: 1, counters.LESSON_CONSULTATIONS: 1}
-        self.check_counted(before, opened, exercises=2 * 4 + 1, puzzles=2 * 6, solves=2 * 11)
+        self.check_counted(before, opened, exercises=2 * 4 + 1, puzzles=2 * PUZZLES, solves=2 * 11)
 
     def check_counted(self, before, others, exercises=0, puzzles=0, solves=0):
         """What was counted: exercises of the table of 7 and puzzles, each with a verdict, and solves, some of them but
@@ -75,6 +77,34 @@ class Acceptance(Installed):
         for locale in ("C", "xx_XX.UTF-8"):
             self.quit(self.start(LC_ALL=locale))
             self.assertEqual(self.file.read_bytes(), worn)
+
+    def test_of_two_copies_started_at_once_one_stays(self):
+        before = self.file.read_bytes()
+        for _ in range(20):
+            with self.program() as one, self.program(beside=True) as other:
+                self.assertTrue(wait_until(lambda: one.has_ended() or other.has_ended()))
+                first, second = (other, one) if one.has_ended() else (one, other)
+                self.assertEqual(second.wait(), 0)
+                first.wait_until_started()
+                first.kill()  # which stops no next start
+        program = self.start()
+        program.page.go(at.TABLE_OF_7, at.LEARNING)
+        program.page.back()
+        with self.program(beside=True) as second:
+            self.assertEqual(second.wait(), 0)
+        self.quit(program)
+        self.check_counted(before, {counters.of_table(7)[0]: 1})
+
+    def test_a_second_start_brings_the_first_copy_to_the_front(self):
+        program = self.start()
+        program.page.go(at.LESSONS, at.LESSONS_SCREEN)
+        pupils = install(self.source, self.folder.with_name("Zoé"))
+        with Program(self.desk, pupils, beside=True) as of_another_folder:
+            of_another_folder.page.wait_for(at.START)
+            with self.program(beside=True) as second:
+                self.assertEqual(second.wait(), 0)
+            program.page.wait_for(at.LESSONS_SCREEN)
+            self.assertFalse(of_another_folder.has_ended())
 
     def test_sounds_reach_the_sound_device(self):
         self.desk.sounds.unlink(missing_ok=True)

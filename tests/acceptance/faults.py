@@ -1,6 +1,7 @@
 """faults.py PROGRAM [PROBE]: what the real program does when its folder or its disk fails it, or it is killed."""
 
 import contextlib
+import os
 import shutil
 import struct
 import subprocess
@@ -12,6 +13,7 @@ import page as at
 from installed import Installed, main
 from programs import install
 from tracing import Trace
+from waiting import wait_until
 
 
 def missing(file):
@@ -145,11 +147,81 @@ class Faults(Installed):
         self.assertEqual(self.file.read_bytes(), self.new)
         self.assertEqual({file: file.stat().st_ino for file in self.file.parent.iterdir()}, before)
 
-    def test_read_only_counters_in_a_read_only_folder_stay_as_they_are(self):
+    def test_counters_that_the_folder_does_not_take_are_the_users_own(self):
+        self.give_to_another_user(self.file.parent, self.file)
+        before = state(self.folder)
+        for visits in (1, 2):
+            with self.started() as program:
+                self.assertEqual(len(self.desk.own_copies()), visits - 1)
+                program.page.go(at.TABLE_OF_7, at.LEARNING)
+                program.page.back()
+                self.quit(program)
+            (own,) = self.desk.own_copies()
+            self.assertEqual(counters.changes(self.new, own.read_bytes()), {counters.of_table(7)[0]: visits})
+        self.assertEqual(state(self.folder), before)
+
+        saved = own.read_bytes()
+        self.give_to_another_user(own.parent, own)
         with self.started() as program:
-            self.file.chmod(0o444)
-            self.file.parent.chmod(0o555)
-            self.check_run_ends(program, [at.QUIT], "Enregistrement impossible", f"datas{self.desk.SEPARATOR}18 »")
+            program.page.click(at.QUIT)
+            self.check_report(program, "Enregistrement impossible", f"{own.parent.name}{self.desk.SEPARATOR}18 »")
+        self.check_desk_becomes(self.desk.AT_REST)
+        self.assertEqual(own.read_bytes(), saved)
+
+        for path in (self.file.parent, self.file, own.parent, own):
+            os.chown(path, os.geteuid(), os.getegid())
+        with self.started() as program:
+            self.quit(program)
+        self.assertEqual(self.file.read_bytes(), saved)
+        self.assertEqual(self.desk.own_copies(), [])
+
+    def give_to_another_user(self, *paths):
+        if os.geteuid() != 0:
+            self.skipTest("only the root user can give files away")
+        for path in paths:
+            os.chown(path, 65534, 65534)
+
+    def test_read_only_counters_are_replaced(self):
+        self.file.chmod(0o444)
+        with self.started() as program:
+            self.quit(program)
+        self.assertEqual(self.file.read_bytes(), self.new)
+
+    def test_counters_that_another_program_holds_are_saved_all_the_same(self):
+        if not self.probe:
+            self.skipTest("files on Linux cannot be held")
+        beside = self.file.with_name("18.nouveau")
+        for shared, lets_go, in_place in (
+            ([], True, True),
+            (["read"], True, True),
+            (["read", "write"], False, True),
+            ([], False, False),
+        ):
+            self.file.write_bytes(self.old)
+            with self.subTest(shared=shared, lets_go=lets_go), self.started() as program:
+                self.desk.hold(self.file, *shared)
+                program.page.click(at.QUIT)
+                self.assertTrue(wait_until(beside.exists))
+                if lets_go:
+                    self.desk.let_go()
+                self.assertEqual(program.wait(), 0)
+                self.desk.let_go()
+                saved = [self.file] if in_place else self.desk.own_copies()
+                self.assertEqual([file.read_bytes() for file in saved], [self.new])
+                self.assertEqual(self.left_beside(), [])
+                self.check_desk_becomes(self.desk.AT_REST)
+
+    def test_any_home_will_do(self):
+        if self.probe:
+            self.skipTest("Windows tells where the user's data are")
+        self.give_to_another_user(self.file.parent, self.file)
+        home = self.folder.with_name(os.fsdecode(b"\xe9l\xe8ve"))
+        for told in ("", "relative/data"):
+            with self.started(HOME=str(home), XDG_DATA_HOME=told) as program:
+                self.quit(program)
+        (own,) = home.glob(".local/share/onze-tables/*/18")
+        self.assertEqual(own.read_bytes(), self.new)
+        self.assertFalse((self.folder / "relative").exists())
 
     def test_a_full_counter_ends_the_run(self):
         consultations, exercises, *_ = counters.of_table(7)

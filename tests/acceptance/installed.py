@@ -27,9 +27,11 @@ class Installed(DeskTest):
         self.folder = Path(self.enterContext(tempfile.TemporaryDirectory()), "Tables d'été à l'école")
         self.executable = install(self.source, self.folder)
         self.file = self.folder / "datas" / "18"
+        for copy in self.desk.own_copies():
+            copy.unlink()
 
-    def program(self, **environment):
-        return Program(self.desk, self.executable, **environment)
+    def program(self, **options):
+        return Program(self.desk, self.executable, **options)
 
     @contextlib.contextmanager
     def started(self, **environment):

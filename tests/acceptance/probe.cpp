@@ -1,5 +1,7 @@
 // Is the taskbar of the desktop that it runs in, and tells line by line what becomes of both, and what
-// programs report. A line on the standard input brings the desktop to rest; the input's end is the probe's.
+// programs report. Lines on the standard input: "tidy" brings the desktop to rest; "hold", with "read",
+// "write" or "delete", opens the file of the next line and shares it so; "let go" closes all. The input's end
+// is the probe's.
 #include <windows.h>
 
 #include <cstdio>
@@ -7,6 +9,8 @@
 #include <map>
 #include <string>
 #include <thread>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -77,8 +81,30 @@ bool TellEnd(const Programs::value_type& running) {
     return true;
 }
 
+HANDLE Hold(const std::string& how, const std::string& file) {
+    wchar_t name[1024] = L"Z:";
+    MultiByteToWideChar(CP_UTF8, 0, file.c_str(), -1, name + 2, 1022);
+    const auto shared = [&how](const char* word) { return how.find(word) != std::string::npos; };
+    const DWORD sharing = (shared("read") ? FILE_SHARE_READ : 0) | (shared("write") ? FILE_SHARE_WRITE : 0) |
+                          (shared("delete") ? FILE_SHARE_DELETE : 0);
+    return CreateFileW(name, GENERIC_READ, sharing, nullptr, OPEN_EXISTING, 0, nullptr);
+}
+
 void ListenTo(DWORD main_thread) {
-    for (std::string line; std::getline(std::cin, line);) PostThreadMessageW(main_thread, kTidy, 0, 0);
+    std::vector<HANDLE> held;
+    for (std::string line; std::getline(std::cin, line);) {
+        if (line == "tidy") {
+            PostThreadMessageW(main_thread, kTidy, 0, 0);
+            continue;
+        }
+        if (std::string file; line != "let go" && std::getline(std::cin, file)) {
+            held.push_back(Hold(line, file));
+            if (held.back() == INVALID_HANDLE_VALUE) continue;
+        } else {
+            for (const HANDLE file_held : std::exchange(held, {})) CloseHandle(file_held);
+        }
+        Tell("done");
+    }
     std::_Exit(0);
 }
 

@@ -20,13 +20,15 @@ def install(program, folder):
 
 
 class Program:
-    def __init__(self, desk, executable, **environment):
+    def __init__(self, desk, executable, beside=False, **environment):
+        """On a desk brought to rest, or beside another program."""
         self.page = Page(desk, self.has_ended)
         self._desk, self._command = desk, [*desk.starter, str(executable)]
-        self._environment = desk.environment(**environment)
+        self._environment, self._beside = desk.environment(**environment), beside
 
     def __enter__(self):
-        self._desk.tidy()
+        if not self._beside:
+            self._desk.tidy()
         self._process = subprocess.Popen(
             self._command, env=self._environment, stderr=subprocess.PIPE, text=True, encoding="utf-8"
         )

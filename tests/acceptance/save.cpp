@@ -15,11 +15,10 @@
 using namespace onze;
 
 int main() {
+    FolderFiles files(FindDataFolders().datas);
 #ifdef _WIN32
-    FolderFiles files(FindDataFolder());
     const auto wait = [] { std::getchar(); };
 #else
-    FolderFiles files(FindDataFolder("/proc/self/exe"));
     const auto wait = [] {  // by a call that no save makes: it can be counted or not
         pollfd input{.fd = 0, .events = POLLIN, .revents = 0};
         poll(&input, 1, -1);

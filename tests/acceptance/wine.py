@@ -104,6 +104,23 @@ class WineDesk(Desk):
         drive = self.prefix / "dosdevices" / "z:"
         return [root + str(file) + new for root in ("", str(drive)) for new in ("", ".nouveau")]
 
+    def own_copies(self):
+        return list(self.prefix.glob("drive_c/users/*/AppData/Roaming/Onze Tables/*/18"))
+
+    def hold(self, file, *shared):
+        """Opens a file as another program does, which shares it with those who "read", "write" or "delete" it."""
+        self._ask(" ".join(["hold", *shared]), str(file).replace("/", "\\"))
+
+    def let_go(self):
+        """Closes the files that are held."""
+        self._ask("let go")
+
+    def _ask(self, *lines):
+        answers = self._told.count("done")
+        self._probe.stdin.write("\n".join([*lines, ""]))
+        self._probe.stdin.flush()
+        assert wait_until(lambda: self._told.count("done") > answers), "the probe does not answer"
+
     def _listen(self):
         for line in self._probe.stdout:
             self._told.append(line.rstrip("\n"))

@@ -43,20 +43,6 @@ TEST_F(QtFiles, ReplacingKeepsPermissionsAndFollowsLinks) {
     EXPECT_EQ(Entries(), 2);
 }
 
-TEST_F(QtFiles, TheDataFolderIsLookedForBesideTheLinkFirst) {
-    const fs::path itself = fs::read_symlink("/proc/self/exe");
-    const fs::path link = folder / "onze-tables";
-    fs::create_symlink(itself, link);
-    EXPECT_EQ(FindDataFolder(link), itself.parent_path() / "datas");  // no data folder there yet
-    fs::create_directories(folder / "datas");
-    EXPECT_EQ(FindDataFolder(link), fs::canonical(folder) / "datas");
-    EXPECT_EQ(FindDataFolder("onze-tables"), itself.parent_path() / "datas");
-    fs::remove(link);
-    std::ofstream(link) << "another program";
-    EXPECT_EQ(FindDataFolder(link), itself.parent_path() / "datas");
-    EXPECT_EQ(FindDataFolder(folder / "absent"), itself.parent_path() / "datas");
-}
-
 TEST(QtTime, IsWrittenAsTheLocaleDoesWithSeconds) {
     const QTime time(9, 20, 30);
     const auto text = [time](const char* locale) { return TimeText(QLocale(locale), time); };

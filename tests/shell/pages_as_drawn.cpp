@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 
 #include "support/pupil.h"
@@ -15,8 +16,9 @@ void ExpectAsDrawn(const std::string& name, const WritingCanvas& canvas) {
     std::ostringstream drawn;
     drawn << std::ifstream(DESIGN_DIR + name + ".txt").rdbuf();
     if (canvas.out.str() == drawn.str()) return;
-    std::ofstream(name + ".txt") << canvas.out.str();
-    ADD_FAILURE() << "what is painted now stands in " << name << ".txt, in the folder of this run";
+    const auto file = std::filesystem::absolute(name + ".txt");
+    std::ofstream(file) << canvas.out.str();
+    ADD_FAILURE() << "what is painted now stands in " << file;
 }
 
 void ExpectAsDrawn(const std::string& name, const Form& page) {

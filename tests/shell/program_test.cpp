@@ -79,7 +79,7 @@ TEST(Program, UnreadablePictureStopsTheStart) {
     EXPECT_EQ(program.Take(event::Started()).failure, "Image introuvable ou illisible : « datas/13 ».");
 }
 
-TEST(Program, FailedSaveStopsTheQuit) {
+TEST(Program, AFailedSaveIsToldAndTheDesktopPutBack) {
     Pupil pupil;
     const std::string before = pupil.host.files["18"];
     pupil.host.calls.clear();
@@ -87,7 +87,8 @@ TEST(Program, FailedSaveStopsTheQuit) {
     pupil.Click(pupil.screens.depart.fin);
     EXPECT_EQ(pupil.reaction.state, Reaction::State::kFailed);
     EXPECT_EQ(pupil.reaction.failure, "Enregistrement impossible : « datas/18 ».");
-    EXPECT_EQ(pupil.host.calls, (Names{"stop", "start 5", "read 18", "write 18"}));
+    EXPECT_EQ(pupil.host.calls,
+              (Names{"stop", "start 5", "read 18", "write 18"}) + Change("1024x768") + kShowTaskbar);
     EXPECT_EQ(pupil.host.files["18"], before);
 }
 

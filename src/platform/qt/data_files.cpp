@@ -1,12 +1,14 @@
 #include "platform/qt/data_files.h"
 
 #include <fcntl.h>
+#include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <array>
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <string>
 
@@ -82,16 +84,28 @@ bool WriteInPlace(const fs::path& file, std::span<const std::byte> bytes) {
     return close(descriptor) == 0 && written;
 }
 
+// Where the user's programs keep their data; a relative path is no answer.
+fs::path DataHome() {
+    const char* const told = std::getenv("XDG_DATA_HOME");
+    if (told && fs::path(told).is_absolute()) return told;
+    const char* home = std::getenv("HOME");
+    const passwd* const user = home && fs::path(home).is_absolute() ? nullptr : getpwuid(getuid());
+    if (user) home = user->pw_dir;
+    return home && fs::path(home).is_absolute() ? fs::path(home) / ".local" / "share" : fs::path();
+}
+
 }  // namespace
 
-fs::path FindDataFolder(const fs::path& started_as) {
+DataFolders FindDataFolders() {
     std::error_code none;
-    const fs::path itself = fs::read_symlink("/proc/self/exe", none);
-    if (started_as.has_parent_path() && fs::equivalent(started_as, itself, none)) {
-        fs::path datas = fs::canonical(started_as.parent_path(), none) / "datas";
-        if (fs::is_directory(datas, none)) return datas;
-    }
-    return itself.parent_path() / "datas";
+    const fs::path programs = fs::read_symlink("/proc/self/exe", none).parent_path();
+    const fs::path beside = programs / "datas";
+    const fs::path installed = programs.parent_path() / "share" / "onze-tables" / "datas";
+    const fs::path own = DataHome().empty() ? fs::path() : DataHome() / "onze-tables";
+    const bool is_installed = !fs::is_directory(beside, none) && fs::is_directory(installed, none);
+    const fs::path& datas = is_installed ? installed : beside;
+    const std::string key = FolderKey(fs::weakly_canonical(datas, none).string());
+    return {datas, own.empty() ? own : own / (is_installed ? "datas" : key), key};
 }
 
 std::optional<std::vector<std::byte>> FolderFiles::Read(std::string_view name) {
@@ -107,13 +121,25 @@ std::optional<std::vector<std::byte>> FolderFiles::Read(std::string_view name) {
 }
 
 bool FolderFiles::Replace(std::string_view name, std::span<const std::byte> bytes) {
+    if (folder_.empty()) return false;
     std::error_code broken;
+    fs::create_directories(folder_, broken);
     const fs::path target = fs::weakly_canonical(folder_ / name, broken);
     return !broken && (ReplaceWhole(target, bytes) || WriteInPlace(target, bytes));
 }
 
 std::string FolderFiles::PlaceOf(std::string_view name) const {
     return (folder_ / name).string();
+}
+
+bool FolderFiles::Has(std::string_view name) const {
+    std::error_code unknown;
+    return !folder_.empty() && fs::exists(folder_ / name, unknown);
+}
+
+bool FolderFiles::Remove(std::string_view name) {
+    std::error_code failed;
+    return fs::remove(folder_ / name, failed) && !failed;
 }
 
 }  // namespace onze

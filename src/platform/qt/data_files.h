@@ -2,24 +2,31 @@
 
 #include <filesystem>
 
-#include "services/data_files.h"
+#include "services/user_files.h"
 
 namespace onze {
 
-// The data folder: the one beside the path that the program was started by, where there is one, else the one
-// beside the executable file itself. So a user can have counters of his own beside a symbolic link to the
-// installed program.
-std::filesystem::path FindDataFolder(const std::filesystem::path& started_as);
+struct DataFolders {
+    std::filesystem::path datas;
+    std::filesystem::path
+        own;          // of the user, for what the data folder does not take; empty where there is none
+    std::string key;  // tells data folders apart
+};
 
-// The files of a folder. A file that is replaced keeps its permissions; of a symbolic link the target is
-// replaced.
-class FolderFiles final : public DataFiles {
+// The data folder beside the executable, or where a package puts it, in share/onze-tables of the same prefix.
+DataFolders FindDataFolders();
+
+// The files of a folder, or none where it has no name. A file that is replaced keeps its permissions; of a
+// symbolic link the target is replaced.
+class FolderFiles final : public OwnFiles {
   public:
     explicit FolderFiles(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
     std::optional<std::vector<std::byte>> Read(std::string_view name) override;
     bool Replace(std::string_view name, std::span<const std::byte> bytes) override;
     std::string PlaceOf(std::string_view name) const override;
+    bool Has(std::string_view name) const override;
+    bool Remove(std::string_view name) override;
 
   private:
     std::filesystem::path folder_;

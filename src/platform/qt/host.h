@@ -10,6 +10,7 @@
 #include "platform/qt/pictures.h"
 #include "platform/qt/sound_player.h"
 #include "shell/host.h"
+#include "stats/usage_record.h"
 
 namespace onze {
 
@@ -23,11 +24,14 @@ class SteadyClock final : public Clock {
 
 // All that a Linux desktop offers to the program. Needs a QGuiApplication.
 struct QtHost {
-    explicit QtHost(const std::filesystem::path& datas) : files(datas), sound_player(datas) {}
+    explicit QtHost(const std::filesystem::path& datas, const std::filesystem::path& own = {})
+        : data_folder(datas), own_folder(own), sound_player(datas) {}
 
     Fonts fonts;
     SteadyClock clock;
-    FolderFiles files;
+    FolderFiles data_folder;
+    FolderFiles own_folder;
+    UserFiles files{data_folder, own_folder, kCountersFile};
     QtPictures pictures;
     SdlSoundPlayer sound_player;
     QtDesktop desktop;

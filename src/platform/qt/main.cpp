@@ -1,8 +1,11 @@
 #include <QGuiApplication>
+#include <QIcon>
+#include <QTimer>
 #include <cstdio>
 #include <cstdlib>
 
 #include "platform/qt/host.h"
+#include "platform/qt/only_copy.h"
 #include "platform/qt/report_window.h"
 #include "platform/qt/window.h"
 #include "shell/program.h"
@@ -46,6 +49,8 @@ int Run(Program& program, QtHost& host) {
     Window window(program, host);
     window.setTitle(kName);
     window.Present();
+    // Once the page is shown, which need not wait for it.
+    QTimer::singleShot(0, [] { QGuiApplication::setWindowIcon(QIcon(":/onze-tables.ico")); });
     const int status = QCoreApplication::exec();
     if (!window.failure().empty()) Report(window.failure().c_str());
     return status;
@@ -55,10 +60,19 @@ int Run(Program& program, QtHost& host) {
 
 int main(int, char** argv) {
     qInstallMessageHandler(HandleQtMessage);
+    const DataFolders folders = FindDataFolders();
+    OnlyCopy copy(folders);
+    const OtherCopy other = copy.Start();
+    if (other == OtherCopy::kShown) return 0;
     int only_the_name = 1;
     QGuiApplication application(only_the_name, argv);
     QGuiApplication::setDesktopFileName("onze-tables");
-    QtHost host(FindDataFolder(argv[0]));
+    if (other != OtherCopy::kNone) {
+        Report(ReportOf(other).data());
+        return 1;
+    }
+    copy.ShowWhenAsked();
+    QtHost host(folders.datas, folders.own);
     ClockRandom random;
     Program program(host, random);
     const int status = Run(program, host);

@@ -39,14 +39,21 @@ Window::Window(Program& program, QtHost& host) : program_(program), host_(host) 
 void Window::Present() {
     fills_screen_ = host_.desktop.fills_screen();
     if (fills_screen_) {
-        // Where there is no window manager the state alone does nothing.
+        // Where there is no window manager the state alone does nothing, and the screen's changes are not
+        // followed.
         setGeometry(screen()->geometry());
+        QObject::connect(screen(), &QScreen::geometryChanged, this, &Window::FollowScreen,
+                         Qt::UniqueConnection);
         showFullScreen();
     } else {
         resize(kPageWidth / kTwipsPerPixel, kPageHeight / kTwipsPerPixel);
         showNormal();
     }
     TellSize();
+}
+
+void Window::FollowScreen(const QRect& geometry) {
+    if (fills_screen_) setGeometry(geometry);
 }
 
 void Window::TellSize() {

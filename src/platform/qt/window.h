@@ -35,6 +35,7 @@ class Window final : public QRasterWindow {
     void Take(const Event& event) { Follow(program_.Take(event)); }
     void Follow(const Reaction& reaction);
     void TellSize();
+    void FollowScreen(const QRect& geometry);
 
     Pixel PixelAt(const QSinglePointEvent& event) const;
     QRect ToLogical(const PixelBox& pixels) const;

@@ -11,6 +11,7 @@
 #include "platform/windows/pictures.h"
 #include "platform/windows/sound_player.h"
 #include "shell/host.h"
+#include "stats/usage_record.h"
 
 namespace onze {
 
@@ -24,12 +25,15 @@ class SteadyClock final : public Clock {
 
 // All that Windows, 7 and later, offers to the program.
 struct WindowsHost {
-    explicit WindowsHost(const std::filesystem::path& datas) : files(datas) {}
+    explicit WindowsHost(const std::filesystem::path& datas, const std::filesystem::path& own = {})
+        : data_folder(datas), own_folder(own) {}
 
     GdiPlus gdi_plus;
     Fonts fonts;
     SteadyClock clock;
-    FolderFiles files;
+    FolderFiles data_folder;
+    FolderFiles own_folder;
+    UserFiles files{data_folder, own_folder, kCountersFile};
     WindowsPictures pictures;
     WindowsSoundPlayer sound_player{files};
     WindowsDesktop desktop;

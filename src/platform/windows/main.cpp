@@ -1,6 +1,7 @@
 #include <windows.h>
 
 #include "platform/windows/host.h"
+#include "platform/windows/only_copy.h"
 #include "platform/windows/utf8.h"
 #include "platform/windows/window.h"
 #include "shell/program.h"
@@ -22,7 +23,12 @@ int Report(const std::string& error) {
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
-    WindowsHost host(FindDataFolder());
+    const DataFolders folders = FindDataFolders();
+    OnlyCopy copy(folders);
+    const OtherCopy other = copy.Start();
+    if (other == OtherCopy::kShown) return 0;
+    if (other != OtherCopy::kNone) return Report(std::string(ReportOf(other)));
+    WindowsHost host(folders.datas, folders.own);
     ClockRandom random;
     Program program(host, random);
     const Reaction start = program.Take(event::Started());
@@ -31,6 +37,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
     {
         Window window(program, host);
         if (window.exists()) {
+            copy.Mark(window.handle());
             window.Run();
             failure = window.failure();
         }

@@ -21,6 +21,7 @@ class Window {
 
     // Whether the system has made it.
     bool exists() const { return handle_ != nullptr; }
+    HWND handle() const { return handle_; }
     // Shows the page and passes events until the program ends or fails, or the window is closed.
     void Run();
     // The text of what ended the program, if it failed.
