@@ -3,6 +3,9 @@
 ; its files one by one, the counters excepted.
 Unicode true
 Target ${TARGET}
+!if ${NSIS_PTR_SIZE} > 4
+    !pragma warning disable 6012 ; labels for the machines that this target does not run on
+!endif
 RequestExecutionLevel user ; where more is needed it is asked for
 ManifestSupportedOS all
 ManifestDPIAware true

@@ -50,7 +50,7 @@ class WindowsPackages(Packages):
                 self.assertTrue(guide.startswith("ONZE TABLES\r\n"))
                 self.assertNotIn("@", guide)
                 self.check_windows_7_runs(folder / "onze-tables.exe", machine)
-                if name == "windows":
+                if name == "windows" or self.runs_32_bits():
                     self.check_counts(folder / "onze-tables.exe")
                 self.check_update(name, folder)
 
@@ -74,9 +74,13 @@ class WindowsPackages(Packages):
         system = [int(re.search(rf"{part}SubsystemVersion\s+(\d+)", told)[1]) for part in ("Major", "Minor")]
         self.assertLessEqual(system, [6, 1])
 
+    def runs_32_bits(self):
+        """Whether Wine does, here."""
+        return (self.desk.prefix / "drive_c" / "windows" / "syswow64" / "kernel32.dll").exists()
+
     def installer(self):
-        """The one to be handed out, where this Wine can run it."""
-        if (self.desk.prefix / "drive_c" / "windows" / "syswow64" / "kernel32.dll").exists():
+        """The one that is handed out, or its twin for 64 bits."""
+        if self.runs_32_bits():
             return self.package("*-installation.exe")
         return self.source.parent / "packaging" / "installation-64bits.exe"
 
