@@ -97,7 +97,7 @@ class WindowsPackages(Packages):
     def entry(self, root):
         """What "Programs and features" knows of it."""
         key = rf"{root}\Software\Microsoft\Windows\CurrentVersion\Uninstall\OnzeTables"
-        told = self.desk.told_by("reg", "query", key)
+        told = self.desk.told_by("reg", "query", key, "/reg:64")
         return dict(re.findall(r"^ +(\w+) +REG_\w+ +(.*?)\r?$", told, re.MULTILINE))
 
     def check_installer(self, words, root, folder, start_menu):
