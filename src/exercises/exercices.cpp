@@ -37,6 +37,13 @@ Exercices::Exercices(Stage& stage, SharedState& shared, Form& depart)
       fin(form, {8280, 6870, 1155, 285}, "RETOUR", ReturnButton()),
       random_(shared.random) {
     form.on_activate = [this] { Form_Activate(); };
+    form.SetBack(fin);
+    form.SetReadingAreas({{0, 0, 4800, 2340},
+                          {4800, 0, 4800, 2340},
+                          {0, 2340, 9600, 1440},
+                          {0, 3780, 9600, 1230},
+                          {0, 5010, 4800, 2190},
+                          {4800, 5010, 4800, 1755}});
     fin.on_click = [this, &shared, &depart] { ReturnToStart(shared.sounds, depart, form); };
 }
 

@@ -9,6 +9,10 @@ Answer::Answer(Label& label, UpDown& arrows, TextOf text_of, std::string unanswe
         entered_ = true;
         label_.SetCaption(text_of_(arrows_.value()));
     };
+    arrows_.on_same = [this] {
+        if (!entered_) arrows_.on_change();
+    };
+    arrows_.text_of = text_of_;
 }
 
 void Answer::Begin() {

@@ -10,6 +10,7 @@ namespace onze {
 
 class Form;
 class TextMeasure;
+class UpDown;
 
 // What a control is to its user.
 enum class Role {
@@ -57,6 +58,12 @@ class Control {
     virtual bool TakesPointer() const { return visible_ && enabled_ && (on_click || on_move); }
     virtual bool TakesClicks() const { return on_click != nullptr; }
     virtual void Paint(Canvas& canvas) const = 0;
+
+    // Whether the focus can stand on it: it can be used now. What belongs to another stop is none.
+    virtual bool IsStop() const { return TakesPointer() && TakesClicks(); }
+    // The stop that it belongs to, and the arrows that enter it, if any do.
+    virtual Control* Stop() { return this; }
+    virtual UpDown* arrows() const { return nullptr; }
 
     // The pointer's button went down here; tells whether the press goes on by itself while it is held. Then
     // it is repeated, wherever the pointer is by then, and ended.

@@ -15,6 +15,7 @@ Form::~Form() {
 void Form::Remove(Control& control) {
     stage_.Forget(control);
     std::erase(controls_, &control);
+    if (back_ == &control) back_ = nullptr;
 }
 
 bool Form::visible() const {
@@ -27,6 +28,12 @@ void Form::Show() {
 
 void Form::Hide() {
     stage_.Hide(*this);
+}
+
+std::size_t Form::AreaAt(Point point) const {
+    const auto found =
+        std::ranges::find_if(areas_, [point](const Rect& area) { return area.Contains(point); });
+    return static_cast<std::size_t>(found - areas_.begin());
 }
 
 void Form::SetPicture(PicturePtr picture) {

@@ -33,6 +33,14 @@ class Form {
     Control* ControlAt(Point point) const;
     const std::vector<Control*>& controls() const { return controls_; }
 
+    // The parts of the page in which it is read, one after the other; what lies in none comes last.
+    void SetReadingAreas(std::vector<Rect> areas) { areas_ = std::move(areas); }
+    // The place of a point among them.
+    std::size_t AreaAt(Point point) const;
+    // What leads back to the page before; null where there is none.
+    Control* back() const { return back_; }
+    void SetBack(Control& back) { back_ = &back; }
+
     std::function<void()> on_activate;
     // The pointer moved over the page where no control reacts.
     std::function<void()> on_move;
@@ -47,6 +55,8 @@ class Form {
     Stage& stage_;
     PicturePtr picture_;
     std::vector<Control*> controls_;
+    std::vector<Rect> areas_;
+    Control* back_ = nullptr;
 };
 
 }  // namespace onze

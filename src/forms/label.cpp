@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "forms/up_down.h"
+
 namespace onze {
 
 namespace {
@@ -47,6 +49,11 @@ TextLayout Label::Layout() const {
         layout_box_ = size;
     }
     return *layout_;
+}
+
+// An answer without its arrows is closed.
+bool Label::IsStop() const {
+    return arrows_ ? visible() && enabled() && arrows_->TakesPointer() : Control::IsStop();
 }
 
 void Label::Paint(Canvas& canvas) const {

@@ -45,6 +45,9 @@ class Label final : public Control {
     Rect HitBox() const override { return box().Grown(style_.outset); }
     Rect PaintedBox() const override { return HitBox().United(TextBox()); }
     void Paint(Canvas& canvas) const override;
+    bool IsStop() const override;
+    UpDown* arrows() const override { return arrows_; }
+    void SetArrows(UpDown* arrows) { arrows_ = arrows; }
     // The text as it is painted.
     TextLayout Layout() const;
 
@@ -55,6 +58,7 @@ class Label final : public Control {
 
     std::string caption_;
     LabelStyle style_;
+    UpDown* arrows_ = nullptr;
     mutable std::optional<TextLayout> layout_;
     mutable Size layout_box_;
 };

@@ -12,6 +12,12 @@ inline constexpr Color kRed{255, 0, 0};
 inline constexpr Color kBlue{0, 0, 255};
 inline constexpr Color kPurple{192, 0, 192};
 
+// The ring around what the keys go to.
+inline constexpr Color kFocusDark{16, 42, 140};
+inline constexpr Color kFocusLight{255, 255, 255};
+inline constexpr int kFocusRing = 4_px;  // how far it passes what it is around
+inline constexpr int kFocusRadius = 6_px;
+
 inline constexpr Color kArrowFill{255, 214, 102};
 inline constexpr Color kHeldArrowFill{240, 176, 48};
 inline constexpr Color kKeyFoot{226, 166, 46};

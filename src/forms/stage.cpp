@@ -31,16 +31,19 @@ void Stage::Hide(Form& form) {
 
 void Stage::Forget(const Form& form) {
     std::erase(shown_, &form);
+    focus_.Forget(form);
     if (gesture_page_ == &form) gesture_page_ = nullptr;
 }
 
 void Stage::Forget(const Control& control) {
+    focus_.Forget(control);
     if (pressed_ != &control) return;
     pressed_ = nullptr;
     repeat_due_.reset();
 }
 
 void Stage::Move(Point point) {
+    if (point != pointer_) focus_.YieldToPointer(nullptr);
     pointer_ = point;
     if (pressed_ || !front()) return;
     const Control* control = front()->ControlAt(point);
@@ -63,6 +66,7 @@ void Stage::Press(Point point, const DoubleClick& rule) {
     last_pressed_at_ = rule.pressed_at;
     if (!front() || front() != gesture_page_) return;
     pressed_ = front()->ControlAt(point);
+    focus_.YieldToPointer(pressed_);
     if (pressed_ && pressed_->BeginPress(point)) repeat_due_ = clock_.TickCount() + kFirstRepeatMs;
 }
 
@@ -76,6 +80,12 @@ void Stage::Release(Point point) {
     if (front() != page) Move(point);  // which the page shown now has not been told
 }
 
+void Stage::Press(const KeyPress& press) {
+    CancelPress();
+    focus_.Press(press);
+    focus_.Follow();
+}
+
 void Stage::CancelPress() {
     if (repeat_due_) pressed_->EndPress();
     repeat_due_.reset();
@@ -87,6 +97,26 @@ void Stage::Wheel(Point point, int notches) {
     for (Control* control : front()->controls()) {
         if (control->TurnWheel(point, notches)) return;
     }
+}
+
+Point Stage::NearestTarget(Point point, int least) const {
+    if (!front() || ReactsToClickAt(point)) return point;
+    Point nearest = point;
+    std::optional<int> distance;
+    for (const Control* control : front()->controls()) {
+        const Rect box = control->HitBox();
+        const int across = std::max(0, (least - box.width + 1) / 2);
+        const int up = std::max(0, (least - box.height + 1) / 2);
+        if (!control->TakesPointer() || !control->TakesClicks() || !box.Grown({across, up}).Contains(point))
+            continue;
+        const Point inside{std::clamp(point.x, box.left, box.right() - 1),
+                           std::clamp(point.y, box.top, box.bottom() - 1)};
+        const int away = std::max(std::abs(inside.x - point.x), std::abs(inside.y - point.y));
+        if (front()->ControlAt(inside) != control || (distance && *distance <= away)) continue;
+        nearest = inside;
+        distance = away;
+    }
+    return nearest;
 }
 
 bool Stage::ReactsToClickAt(Point point) const {
@@ -116,10 +146,17 @@ void Stage::RepeatPress() {
 }
 
 void Stage::Paint(Canvas& canvas, const Rect& clip) const {
-    if (front()) front()->Paint(canvas, clip);
+    if (!front()) return;
+    front()->Paint(canvas, clip);
+    if (focus_.Ring().Meets(clip)) focus_.Paint(canvas);
 }
 
 Rect Stage::TakeDamage() {
+    focus_.Follow();
+    if (const Rect ring = focus_.Ring(); ring != ring_) {
+        AddDamage(ring_.United(ring));
+        ring_ = ring;
+    }
     const Rect damage = damage_;
     damage_ = {};
     return damage;

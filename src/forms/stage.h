@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "forms/clock.h"
+#include "forms/focus.h"
 #include "forms/form.h"
 #include "forms/text_measure.h"
 
@@ -41,6 +42,10 @@ class Stage {
     // The pointer went to another window in the middle of a press: that is no click.
     void CancelPress();
     void Wheel(Point point, int notches);
+    void Press(const KeyPress& press);
+    // The point itself where a click would do something, else the nearest one of a target that is, for a
+    // finger, no less than so wide and high; the point itself where there is none.
+    Point NearestTarget(Point point, int least) const;
     // Whether a click at this point would do something, for the pointer's looks.
     bool ReactsToClickAt(Point point) const;
 
@@ -53,6 +58,8 @@ class Stage {
     void DamageAll() { AddDamage({0, 0, kPageWidth, kPageHeight}); }
     // The messages that changed on the page shown since the last call, a line each.
     std::string TakeMessages() { return std::exchange(messages_, {}); }
+    // The control that has the focus, where that shows; else null.
+    const Control* focused() const { return focus_.shown(); }
     // What has to be painted anew since the last call; an empty box for nothing.
     Rect TakeDamage();
 
@@ -81,6 +88,8 @@ class Stage {
     Rect damage_;
     std::string messages_;
     Point pointer_;
+    Focus focus_{*this};
+    Rect ring_;                           // of the focus, as it was last told
     const Form* gesture_page_ = nullptr;  // where the gesture began
     Point last_press_;
     std::int64_t last_pressed_at_ = 0;

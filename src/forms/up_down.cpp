@@ -8,8 +8,30 @@
 
 namespace onze {
 
-UpDown::UpDown(Form& form, const Rect& box, const Range& range, const Label& answer)
-    : Control(form, box, Role::kAnswer), answer_(answer), range_(range), value_(range.minimum) {}
+namespace {
+
+// A text as it is compared: capital letters, numbers without blanks and zeros before them.
+std::string Plain(std::string_view text) {
+    const std::size_t begin = std::min(text.find_first_not_of(' '), text.size());
+    std::string plain(text.substr(begin));
+    for (char& c : plain) {
+        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+        if (c == '*') c = 'X';
+    }
+    while (plain.size() > 1 && plain.front() == '0') plain.erase(0, 1);
+    return plain;
+}
+
+bool IsNumber(const std::string& text) {
+    return !text.empty() && std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
+}
+
+}  // namespace
+
+UpDown::UpDown(Form& form, const Rect& box, const Range& range, Label& answer)
+    : Control(form, box, Role::kAnswer), answer_(answer), range_(range), value_(range.minimum) {
+    answer.SetArrows(this);
+}
 
 void UpDown::SetValue(int value) {
     const int bounded = std::clamp(value, range_.minimum, range_.maximum);
@@ -21,6 +43,33 @@ void UpDown::SetValue(int value) {
 void UpDown::Step(int direction) {
     const int next = value_ + direction * increment_;
     if (next >= range_.minimum && next <= range_.maximum) SetValue(next);
+}
+
+void UpDown::Enter(int value) {
+    if (value != value_) {
+        SetValue(value);
+    } else if (on_same) {
+        on_same();
+    }
+}
+
+void UpDown::EnterAhead(int steps) {
+    const int room = (steps > 0 ? range_.maximum - value_ : value_ - range_.minimum) / increment_;
+    Enter(value_ + std::clamp(steps, -room, room) * increment_);
+}
+
+bool UpDown::EnterText(std::string_view typed) {
+    if (!text_of) return false;
+    const std::string wanted = Plain(typed);
+    const bool number = IsNumber(wanted);
+    if (number != IsNumber(Plain(text_of(value_)))) return false;
+    for (int value = range_.minimum; value <= range_.maximum; value += increment_) {
+        const std::string text = Plain(text_of(value));
+        if (number ? text != wanted : !text.starts_with(wanted)) continue;
+        Enter(value);
+        return true;
+    }
+    return number;
 }
 
 void UpDown::SetHeldHalf(int direction) {

@@ -15,7 +15,8 @@ class UpDown final : public Control {
     };
 
     // The answer is the label that the wheel steps, beside the arrows themselves.
-    UpDown(Form& form, const Rect& box, const Range& range, const Label& answer);
+    UpDown(Form& form, const Rect& box, const Range& range, Label& answer);
+    ~UpDown() override { answer_.SetArrows(nullptr); }
 
     int value() const { return value_; }
     int minimum() const { return range_.minimum; }
@@ -25,6 +26,11 @@ class UpDown final : public Control {
 
     // One step up (direction 1) or down (-1).
     void Step(int direction);
+    // As many steps ahead as there are up to a limit, no more than these, as one change.
+    void EnterAhead(int steps);
+    // The value that a typed text stands for, or begins to stand for, where steps could reach it; tells
+    // whether it was for this answer.
+    bool EnterText(std::string_view typed);
 
     const std::string& name() const override { return answer_.name(); }
     bool TakesPointer() const override { return visible() && enabled(); }
@@ -35,7 +41,15 @@ class UpDown final : public Control {
     bool TurnWheel(Point point, int notches) override;
     void Paint(Canvas& canvas) const override;
 
+    bool IsStop() const override { return false; }
+    Control* Stop() override { return &answer_; }
+    const Label& answer() const { return answer_; }
+
     std::function<void()> on_change;
+    // A value was entered that stood there before.
+    std::function<void()> on_same;
+    // How a value reads.
+    std::function<std::string(int value)> text_of;
 
   private:
     // The half under a point: 1 (upper) or -1 (lower).
@@ -43,7 +57,9 @@ class UpDown final : public Control {
     void SetHeldHalf(int direction);
     void PaintHalf(Canvas& canvas, int direction) const;
 
-    const Label& answer_;
+    void Enter(int value);
+
+    Label& answer_;
     Range range_;
     int value_;
     int increment_ = 1;

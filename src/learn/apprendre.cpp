@@ -50,6 +50,11 @@ Apprendre::Apprendre(Stage& stage, SharedState& shared, PictureClip& anim, Form&
       anim_(anim),
       depart_(depart) {
     form.on_activate = [this] { Form_Activate(); };
+    form.SetBack(retour);
+    form.SetReadingAreas({{236_px, 44_px, 404_px, 95_px},
+                          {236_px, 139_px, 404_px, 122_px},
+                          {236_px, 261_px, 404_px, 95_px},
+                          {236_px, 356_px, 404_px, 95_px}});
     retour.on_click = [this] { retour_Click(); };
 }
 

@@ -75,6 +75,7 @@ Leçon::Leçon(Stage& stage, SharedState& shared, Form& depart)
       l10   { form, { 382_px, 311_px, 236_px,  52_px }, kLongMultiplication,   kBeforeL9 },
       retour{ form, { 552_px, 460_px,  76_px,  17_px }, "RETOUR",              kButton } {
     // clang-format on
+    form.SetBack(retour);
     retour.on_click = [this, &shared, &depart] { ReturnToStart(shared.sounds, depart, form); };
 }
 

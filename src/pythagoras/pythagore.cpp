@@ -15,7 +15,8 @@ constexpr int kGridTop = 85_px;
 constexpr Color kDisabled{104, 112, 136};
 constexpr Color kYellow{255, 255, 0};
 
-const LabelStyle kNumber{.font = {13.5_pt, true},
+const LabelStyle kNumber{.role = Role::kCell,
+                         .font = {13.5_pt, true},
                          .color = kRed,
                          .disabled_color = kDisabled,
                          .align = Align::kCenter,
@@ -87,6 +88,7 @@ Pythagore::Pythagore(Stage& stage, SharedState& shared, Form& depart)
         colonne[i].on_click = [this, i] { colonne_Click(i); };
         rangee[i].on_click = [this, i] { rangee_Click(i); };
     }
+    form.SetBack(retour);
     retour.on_click = [this] { retour_Click(); };
     blinker_.on_flash = [this] {
         PlayClick();

@@ -5,6 +5,7 @@
 #include <string>
 #include <variant>
 
+#include "forms/key.h"
 #include "forms/page_view.h"
 
 namespace onze {
@@ -28,6 +29,7 @@ struct PointerMoved {
 // than this time and this many pixels apart.
 struct PointerPressed {
     Pixel at;
+    bool finger = false;         // which covers more than a point
     std::int64_t time = 0;       // milliseconds of the clock that the system's events have
     int double_click_time = -1;  // milliseconds; below 0: no two presses are one gesture
     double double_click_distance = 0;
@@ -37,6 +39,9 @@ struct PointerReleased {
 };
 // Another window has the pointer, and will get the release.
 struct PointerLost {};
+struct KeyPressed {
+    KeyPress press;
+};
 // By how much: 120 for each notch of a common wheel, above 0 when it turns away from the user.
 struct WheelTurned {
     Pixel at;
@@ -45,9 +50,9 @@ struct WheelTurned {
 
 }  // namespace event
 
-using Event =
-    std::variant<event::Started, event::WindowResized, event::TimePassed, event::PointerMoved,
-                 event::PointerPressed, event::PointerReleased, event::PointerLost, event::WheelTurned>;
+using Event = std::variant<event::Started, event::WindowResized, event::TimePassed, event::PointerMoved,
+                           event::PointerPressed, event::PointerReleased, event::PointerLost,
+                           event::KeyPressed, event::WheelTurned>;
 
 // What the host has to do now.
 struct Reaction {

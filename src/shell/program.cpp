@@ -9,6 +9,9 @@ namespace {
 constexpr std::uint32_t kHideWindow = 0x80;
 constexpr std::uint32_t kShowWindow = 0x40;
 constexpr int kNotch = 120;
+// As wide and as high as this, in the window, is each target of a finger, where its neighbours leave the
+// room.
+constexpr double kFingerPixels = 44;
 
 // Takes a step when its block is left, in whatever way.
 template <class Step>
@@ -98,20 +101,26 @@ void Program::On(const event::WindowResized& resized) {
     stage_.DamageAll();
 }
 
+Point Program::Aim(Pixel at) const {
+    const Point point = view_.ToPage(at);
+    return finger_ ? stage_.NearestTarget(point, view_.LengthToPage(kFingerPixels)) : point;
+}
+
 void Program::On(const event::PointerMoved& moved) {
     pointer_ = view_.ToPage(moved.at);
     stage_.Move(pointer_);
 }
 
 void Program::On(const event::PointerPressed& pressed) {
-    pointer_ = view_.ToPage(pressed.at);
+    finger_ = pressed.finger;
+    pointer_ = Aim(pressed.at);
     stage_.Press(pointer_, {.pressed_at = pressed.time,
                             .time = pressed.double_click_time,
                             .distance = view_.LengthToPage(pressed.double_click_distance)});
 }
 
 void Program::On(const event::PointerReleased& released) {
-    pointer_ = view_.ToPage(released.at);
+    pointer_ = Aim(released.at);
     stage_.Release(pointer_);
 }
 

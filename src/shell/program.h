@@ -37,7 +37,11 @@ class Program {
     void On(const event::PointerPressed& pressed);
     void On(const event::PointerReleased& released);
     void On(const event::PointerLost&) { stage_.CancelPress(); }
+    void On(const event::KeyPressed& pressed) { stage_.Press(pressed.press); }
     void On(const event::WheelTurned& turned);
+
+    // The point of the page that was meant.
+    Point Aim(Pixel at) const;
 
     // Takes a step while the program runs; the one place that catches.
     template <class Step>
@@ -56,6 +60,7 @@ class Program {
     std::optional<Screens> screens_;
     PageView view_;
     Point pointer_;
+    bool finger_ = false;   // pressed last
     int wheel_turned_ = 0;  // since the last whole notch
     Reaction::State state_ = Reaction::State::kRuns;
     std::string failure_;

@@ -49,6 +49,7 @@ Bilan::Bilan(Stage& stage, SharedState& shared, Form& depart)
       retour        { form, { 552_px, 459_px,  76_px,  17_px }, "RETOUR", kButton },
       shared_(shared) {
     // clang-format on
+    form.SetBack(retour);
     retour.on_click = [this, &depart] { ReturnToStart(shared_.sounds, depart, form); };
 }
 

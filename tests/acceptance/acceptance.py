@@ -78,6 +78,33 @@ class Acceptance(Installed):
             self.quit(self.start(LC_ALL=locale))
             self.assertEqual(self.file.read_bytes(), worn)
 
+    def test_a_visit_by_keys_alone_is_counted(self):
+        before = self.file.read_bytes()
+        program = self.start()
+        page = program.page
+        page.press("Tab Right Right Right Right Right Return", at.LEARNING)
+        # The first exercise, then from the end of the page: a sign, the letter that stands there, NON.
+        page.press("1 Return shift+Tab shift+Tab minus Return shift+Tab Return shift+Tab Return")
+        page.press("Escape", at.START)
+        page.press("Left Return", at.LEARNING)
+        page.press("Escape", at.START)
+        page.press("Tab Tab Tab Tab Tab Tab Tab Return", at.PYTHAGORAS_SCREEN)
+        page.press("Down Return Right Return")
+        page.press("Escape", at.START)
+        page.press("Tab Return", at.LESSONS_SCREEN)
+        page.press("Escape", at.START)
+        page.press("Tab Return", at.EXERCISES_SCREEN)
+        # The first two, the third or its first half and more, OUI.
+        page.press("1 Return Tab 2 Return Tab 3 Return 4 Return Tab Return")
+        page.press("Escape", at.START)
+        page.press("Tab Return", at.REPORT_SCREEN)
+        page.press("Escape", at.START)
+        page.press("Escape Return")
+        self.assertEqual(program.wait(), 0)
+        tables = {counters.of_table(table)[0]: 1 for table in (6, 7)}
+        others = {**tables, counters.PYTHAGORE_CONSULTATIONS: 1, counters.LESSON_CONSULTATIONS: 1}
+        self.check_counted(before, others, exercises=4, puzzles=5, solves=1)
+
     def test_of_two_copies_started_at_once_one_stays(self):
         before = self.file.read_bytes()
         for _ in range(20):

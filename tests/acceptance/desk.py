@@ -108,6 +108,9 @@ class Desk:
             words += "mousemove", x, y, "mousedown", 1, "mouseup", 1
         self._pointer(*words)
 
+    def press(self, *keys):
+        self._pointer("key", "--delay", 0, *keys)
+
     def look(self, box, size):
         """The colours inside a box (left, top, width, height), brought to a size: three bytes a pixel."""
         return self._see(box, "-resize", f"{size[0]}x{size[1]}!", "-depth", "8", "rgb:-")

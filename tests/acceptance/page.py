@@ -108,6 +108,12 @@ class Page:
         self.click(place)
         self.wait_for(screen)
 
+    def press(self, keys, screen=None):
+        """Presses keys, told with blanks between them, and waits for the screen that they lead to."""
+        self._desk.press(*keys.split())
+        if screen:
+            self.wait_for(screen)
+
     def back(self):
         self.go(BACK, START)
 

@@ -135,6 +135,29 @@ TEST(Program, TakesPixelsOfItsWindow) {
     EXPECT_EQ(pupil.reaction.say, pupil.screens.apprendre.factoring.ui.label_table1.caption());
 }
 
+// On a page of 1024 x 768, pixels beside "NON", beside the arrows and between both.
+TEST(Program, AFingerNeedNotHitExactly) {
+    for (const bool finger : {true, false}) {
+        Pupil pupil;
+        pupil.program.Take(event::WindowResized{1024, 768});
+        pupil.ChooseTable(7);
+        const auto tap = [&](Pixel at) {
+            pupil.program.Take(event::PointerPressed{.at = at, .finger = finger});
+            pupil.program.Take(event::PointerReleased{{at.x + 1, at.y}});
+        };
+        const Label& factor = pupil.screens.apprendre.factoring.ui.chiffre;
+        tap({795 + 2, 120});  // the lower half, whose arrows end at 793
+        tap({795 + 2, 87});
+        EXPECT_EQ(factor.caption(), finger ? "1" : "??");
+        const Label& non = pupil.screens.apprendre.multiple.ui.non;
+        const int below = (non.HitBox().bottom() * 16 / 10) / 15 + 1;
+        tap({752, below + 20});
+        EXPECT_TRUE(non.visible()) << "farther than 22 pixels from the middle";
+        tap({752, below + 1});
+        EXPECT_EQ(non.visible(), !finger);
+    }
+}
+
 TEST(Program, TakesADoubleClickForOneGesture) {
     const auto click = [](Pupil& pupil, std::int64_t time) {
         const Pixel back{590, 467};

@@ -200,6 +200,20 @@ TEST_P(ExerciseTest, IsAskedAnsweredAndCountedAsIfForTheFirstTime) {
     }
 }
 
+TEST_P(ExerciseTest, IsAnsweredByKeysAlone) {
+    Sitting sitting(GetParam());
+    sitting.by_keys = true;
+    for (std::size_t i = 0; i < sitting.ways().size() && !HasFailure(); ++i) {
+        const Way& way = sitting.ways()[i];
+        SCOPED_TRACE(way.asked);
+        sitting.Open(way);
+        sitting.Play(way);
+        sitting.Continue(way);
+        sitting.Play(way);
+        sitting.Leave();
+    }
+}
+
 // The order of what a correction does, seen by what a counter's overflow leaves undone.
 TEST_P(ExerciseTest, StopsAtAFullCounter) {
     const Sitting any(GetParam());

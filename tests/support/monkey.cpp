@@ -5,6 +5,7 @@
 namespace onze {
 
 void Monkey::Act(Program& program) {
+    if (random_.Draw(3) == 0) return Press(program);
     const int aim = random_.Draw(10);  // else it stays where it is
     if (aim < 2) at_ = Anywhere();
     if (aim > 3) at_ = OnSomething(program);
@@ -23,6 +24,18 @@ void Monkey::Act(Program& program) {
             program.Take(event::PointerPressed{.at = at_});
             program.Take(event::PointerReleased{at_});
     }
+}
+
+void Monkey::Press(Program& program) {
+    static constexpr std::string_view kCharacters = "0123456789 ADERSTXZadx+-*&!~";
+    const int key = random_.Draw(static_cast<int>(Key::kCharacter) + 8);
+    KeyPress press{.key = static_cast<Key>(std::min(key, static_cast<int>(Key::kCharacter)))};
+    if (press.key == Key::kCharacter) {
+        press.character = kCharacters[static_cast<std::size_t>(random_.Draw(28))];
+        if (random_.Draw(4) == 0) press.digit = static_cast<char>('0' + random_.Draw(10));
+    }
+    press.repeated = random_.Draw(8) == 0;
+    program.Take(event::KeyPressed{press});
 }
 
 Pixel Monkey::Anywhere() {

@@ -25,8 +25,8 @@ class SeededRandom final : public Random {
     int draws_ = 0;  // since the last reseeding
 };
 
-// A child that does anything at all with the pointer: clicks here and there, holds, drags, turns the wheel,
-// lets time pass (wait lets that many milliseconds go by).
+// A child that does anything at all with the pointer and the keys: clicks here and there, holds, drags, turns
+// the wheel, lets time pass (wait lets that many milliseconds go by).
 class Monkey {
   public:
     Monkey(unsigned seed, std::function<void(int)> wait) : random_(seed), wait_(std::move(wait)) {}
@@ -34,6 +34,7 @@ class Monkey {
     void Act(Program& program);
 
   private:
+    void Press(Program& program);
     Pixel Anywhere();
     Pixel OnSomething(Program& program);
     void Hold(Program& program);

@@ -32,7 +32,27 @@ void Pupil::MoveOnto(const Control& control) {
     program.Take(event::PointerMoved{On(control)});
 }
 
+void Pupil::Press(Key key) {
+    reaction = program.Take(event::KeyPressed{{.key = key}});
+}
+
+void Pupil::Type(const std::string& characters) {
+    host.now += 2000;
+    for (const char character : characters)
+        reaction = program.Take(event::KeyPressed{{.key = Key::kCharacter, .character = character}});
+}
+
+bool Pupil::FocusOn(const Control& control) {
+    constexpr int kMoreThanStops = 40;
+    for (int i = 0; i < kMoreThanStops && program.stage().focused() != &control; ++i) Press(Key::kTab);
+    return program.stage().focused() == &control;
+}
+
 void Pupil::Click(const Control& control) {
+    if (by_keys) {
+        ASSERT_TRUE(FocusOn(control)) << "out of the keys' reach";
+        return Press(Key::kClick);
+    }
     const Form* front = program.stage().front();
     ASSERT_TRUE(front && front->ControlAt(program.view().ToPage(On(control))) == &control)
         << "out of the pointer's reach";
@@ -48,6 +68,10 @@ void Pupil::ClickIntoFull(const Control& control, const std::string& counter) {
 }
 
 void Pupil::Tap(const Control& control) {
+    if (by_keys) {
+        if (FocusOn(control)) Press(Key::kClick);
+        return;
+    }
     const Pixel pixel = On(control);
     program.Take(event::PointerMoved{pixel});
     program.Take(event::PointerPressed{.at = pixel});
@@ -55,6 +79,11 @@ void Pupil::Tap(const Control& control) {
 }
 
 void Pupil::Step(const UpDown& arrows, int times) {
+    if (by_keys) {
+        ASSERT_TRUE(FocusOn(arrows.answer()));
+        for (int i = 0; i < std::abs(times); ++i) Press(times > 0 ? Key::kUp : Key::kDown);
+        return;
+    }
     const Rect& box = arrows.box();
     const Pixel half = program.view().ToPixels(
         Point{box.left + box.width / 2, times > 0 ? box.top + 1_px : box.bottom() - 1_px});
@@ -65,6 +94,11 @@ void Pupil::Step(const UpDown& arrows, int times) {
 }
 
 void Pupil::Turn(const UpDown& arrows, int value) {
+    if (by_keys) {
+        ASSERT_TRUE(FocusOn(arrows.answer()));
+        const std::string text = arrows.text_of(value);
+        return Type(text.substr(text.find_first_not_of(' ')));
+    }
     const int direction = value > arrows.value() ? 1 : -1;
     while (arrows.value() * direction < value * direction) {
         const int before = arrows.value();

@@ -15,7 +15,7 @@ namespace onze {
 
 using Names = std::vector<std::string>;
 
-// The whole program as a pupil uses it: with the pointer, eyes and ears.
+// The whole program as a pupil uses it: with the pointer or with the keys, eyes and ears.
 class Pupil {
   public:
     // Starts the program with these counters in its file.
@@ -28,6 +28,11 @@ class Pupil {
     // A click that runs into a full counter: the error names it, and nothing is saved.
     void ClickIntoFull(const Control& control, const std::string& counter);
     void MoveOnto(const Control& control);
+    // Presses a key, or a letter's or digit's one after the other.
+    void Press(Key key);
+    void Type(const std::string& characters);
+    // Walks there with the Tab key; tells whether that led there.
+    bool FocusOn(const Control& control);
     // Presses an arrow's upper (positive) or lower half so many times.
     void Step(const UpDown& arrows, int times);
     // Turns the arrow to a value, one press at a time, up or down by its increment.
@@ -49,6 +54,8 @@ class Pupil {
 
     // Clicks SORTIE and reads what was saved.
     Counters Quit();
+
+    bool by_keys = false;  // clicks and steps
 
     HeadlessHost host;
     ScriptedRandom random;

@@ -13,6 +13,7 @@
 
 #include "platform/qt/canvas.h"
 #include "platform/qt/host.h"
+#include "platform/qt/keys.h"
 
 namespace onze {
 
@@ -23,6 +24,7 @@ event::PointerPressed Pressed(const QMouseEvent& event, Pixel at, double pixel_r
     const bool finger = event.deviceType() == QInputDevice::DeviceType::TouchScreen;
     const int distance = finger ? hints.touchDoubleTapDistance() : hints.mouseDoubleClickDistance();
     return {.at = at,
+            .finger = finger,
             .time = static_cast<std::int64_t>(event.timestamp()),
             .double_click_time = hints.mouseDoubleClickInterval(),
             .double_click_distance = distance * pixel_ratio};
@@ -90,6 +92,10 @@ void Window::mousePressEvent(QMouseEvent* event) {
 
 void Window::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) Take(event::PointerReleased{PixelAt(*event)});
+}
+
+void Window::keyPressEvent(QKeyEvent* event) {
+    if (const auto press = KeyPressOf(*event)) Take(event::KeyPressed{*press});
 }
 
 void Window::wheelEvent(QWheelEvent* event) {

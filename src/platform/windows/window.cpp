@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "platform/windows/canvas.h"
+#include "platform/windows/keys.h"
 
 namespace onze {
 
@@ -50,6 +51,11 @@ void RegisterOnce(WNDPROC procedure) {
 
 Pixel PixelOf(LPARAM lparam) {
     return {GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)};
+}
+
+// What the system makes of a touch, a mouse's message, is marked, and apart from a pen's.
+bool IsOfFinger(LPARAM extra) {
+    return (extra & 0xFFFFFF80) == 0xFF515780;
 }
 
 // The dots per inch that the desktop is set to, where 96 are 100 %. Windows 7 knows one number for all
@@ -144,6 +150,9 @@ LRESULT Window::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
         case WM_LBUTTONUP:
             Release(PixelOf(lparam));
             return 0;
+        case WM_KEYDOWN:
+            if (const auto press = KeyPressOf(wparam, lparam)) Take(event::KeyPressed{*press});
+            return 0;
         case WM_CAPTURECHANGED:
             LoseCapture();
             return 0;
@@ -196,6 +205,7 @@ void Window::Press(Pixel at) {
     pressed_ = true;
     const int across = std::max(GetSystemMetrics(SM_CXDOUBLECLK), GetSystemMetrics(SM_CYDOUBLECLK));
     Take(event::PointerPressed{.at = at,
+                               .finger = IsOfFinger(GetMessageExtraInfo()),
                                .time = GetMessageTime(),
                                .double_click_time = static_cast<int>(GetDoubleClickTime()),
                                .double_click_distance = across / 2.0});
