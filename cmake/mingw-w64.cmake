@@ -14,6 +14,6 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 # The same sources make the same bytes, wherever and whenever they are built.
 cmake_path(GET CMAKE_CURRENT_LIST_DIR PARENT_PATH root)
-set(CMAKE_CXX_FLAGS_INIT "${mingw_flags} -ffile-prefix-map=${root}=.")
+set(CMAKE_CXX_FLAGS_INIT "${mingw_flags} \"-ffile-prefix-map=${root}=.\"")
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-static -Wl,--no-insert-timestamp")
 set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/../scripts/wine)
