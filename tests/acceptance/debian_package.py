@@ -19,9 +19,12 @@ class DebianPackage(Packages):
         root = self.scratch / "root"
         (root / "var" / "lib" / "dpkg").mkdir(parents=True)
         self.dpkg(root, "--install", self.package("onze-tables_*.deb"))
-        shared = root / "usr" / "share" / "onze-tables" / "datas" / "18"
+        share = root / "usr" / "share"
+        shared = share / "onze-tables" / "datas" / "18"
         delivered = shared.read_bytes()
-        self.assertTrue((root / "usr" / "share" / "doc" / "onze-tables" / "LISEZMOI.txt").read_text().startswith("ONZE"))
+        guide = (share / "doc" / "onze-tables" / "LISEZMOI.txt").read_text(encoding="utf-8")
+        self.assertTrue(guide.startswith("ONZE TABLES\n"))
+        self.assertNotIn("@", guide)
         self.protect(shared.parent, shared)
 
         place = counters.of_table(7)[0]

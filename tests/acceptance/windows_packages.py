@@ -70,7 +70,7 @@ class WindowsPackages(Packages):
         libraries = map(str.lower, re.findall(r"DLL Name: (\S+)", told))
         functions = re.findall(r"^\t[0-9a-f]+\t +\d+  (\w+)", told, re.MULTILINE)
         self.assertIn("CreateWindowExW", functions)
-        self.assertEqual({*libraries, *functions} - IN_WINDOWS_7, set())
+        self.assertEqual({*libraries, *functions} - IN_WINDOWS_7, set(), "not in windows7_imports.txt")
         system = [int(re.search(rf"{part}SubsystemVersion\s+(\d+)", told)[1]) for part in ("Major", "Minor")]
         self.assertLessEqual(system, [6, 1])
 
