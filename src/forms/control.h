@@ -3,6 +3,7 @@
 #include <functional>
 #include <initializer_list>
 #include <string>
+#include <utility>
 
 #include "forms/drawing.h"
 
@@ -37,6 +38,7 @@ class Control {
     // What tells it in words: its text, or what stands for the text that it has not.
     virtual const std::string& name() const { return name_; }
     void SetName(std::string name) { name_ = std::move(name); }
+    const std::string& given_name() const { return name_; }
 
     const Rect& box() const { return box_; }
     bool visible() const { return visible_; }
@@ -62,7 +64,8 @@ class Control {
     // Whether the focus can stand on it: it can be used now. What belongs to another stop is none.
     virtual bool IsStop() const { return TakesPointer() && TakesClicks(); }
     // The stop that it belongs to, and the arrows that enter it, if any do.
-    virtual Control* Stop() { return this; }
+    virtual const Control* Stop() const { return this; }
+    Control* Stop() { return const_cast<Control*>(std::as_const(*this).Stop()); }
     virtual UpDown* arrows() const { return nullptr; }
 
     // The pointer's button went down here; tells whether the press goes on by itself while it is held. Then

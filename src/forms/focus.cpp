@@ -17,11 +17,6 @@ constexpr std::int64_t kTypingMs = 1000;
 constexpr int kPageOfSteps = 10;
 constexpr int kAllSteps = std::numeric_limits<int>::max();
 
-Point MiddleOf(const Control& control) {
-    const Rect box = control.HitBox();
-    return {box.left + box.width / 2, box.top + box.height / 2};
-}
-
 bool Holds(const std::vector<Control*>& stops, const Control* control) {
     return std::ranges::find(stops, control) != stops.end();
 }
@@ -29,13 +24,9 @@ bool Holds(const std::vector<Control*>& stops, const Control* control) {
 }  // namespace
 
 Focus::Stops Focus::StopsOfPage() const {
-    Stops stops;
-    if (!stage_.front()) return stops;
-    for (Control* control : stage_.front()->controls()) {
-        if (control->IsStop()) stops.push_back(control);
-    }
-    std::ranges::stable_sort(
-        stops, {}, [this](const Control* control) { return stage_.front()->AreaAt(MiddleOf(*control)); });
+    if (!stage_.front()) return {};
+    Stops stops = stage_.front()->InReadingOrder();
+    std::erase_if(stops, [](const Control* control) { return !control->IsStop(); });
     return stops;
 }
 
@@ -45,11 +36,11 @@ Control* Focus::HeirOf(Control& lost, const Stops& stops) const {
     const auto place = [&page](const Control* control) {
         return std::ranges::find(page.controls(), control) - page.controls().begin();
     };
-    const std::size_t area = page.AreaAt(MiddleOf(lost));
+    const std::size_t area = page.AreaAt(lost.HitBox().Middle());
     const bool disabled = lost.visible() && !lost.enabled();
     Control* first = nullptr;
     for (Control* stop : stops) {
-        if (page.AreaAt(MiddleOf(*stop)) != area) continue;
+        if (page.AreaAt(stop->HitBox().Middle()) != area) continue;
         if (disabled && stop->role() != lost.role()) continue;
         if (!first) first = stop;
         if (place(stop) > place(&lost)) return stop;
@@ -109,8 +100,8 @@ Control* Focus::Neighbour(Key direction) const {
     int least = 0;
     for (std::ptrdiff_t i = 0; i < std::ssize(stops); ++i) {
         Control* const stop = stops[static_cast<std::size_t>(i)];
-        const int right = MiddleOf(*stop).x - MiddleOf(*at_).x;
-        const int down = MiddleOf(*stop).y - MiddleOf(*at_).y;
+        const int right = stop->HitBox().Middle().x - at_->HitBox().Middle().x;
+        const int down = stop->HitBox().Middle().y - at_->HitBox().Middle().y;
         const int along = sign * (upright ? down : right);
         const int across = std::abs(upright ? right : down);
         const bool in_row = std::abs(i - here) == 1 && stop->role() == at_->role();
@@ -157,6 +148,13 @@ void Focus::Press(const KeyPress& press) {
                 MoveTo(Neighbour(press.key));
             }
     }
+}
+
+bool Focus::Take(Control& control) {
+    if (!Holds(StopsOfPage(), &control)) return false;
+    shown_ = true;
+    MoveTo(&control);
+    return true;
 }
 
 void Focus::Click(Control& control) {

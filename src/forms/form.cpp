@@ -36,6 +36,13 @@ std::size_t Form::AreaAt(Point point) const {
     return static_cast<std::size_t>(found - areas_.begin());
 }
 
+std::vector<Control*> Form::InReadingOrder() const {
+    std::vector<Control*> ordered = controls_;
+    std::ranges::stable_sort(ordered, {},
+                             [this](const Control* control) { return AreaAt(control->HitBox().Middle()); });
+    return ordered;
+}
+
 void Form::SetPicture(PicturePtr picture) {
     picture_ = std::move(picture);
     Damage({0, 0, kPageWidth, kPageHeight});

@@ -35,6 +35,7 @@ class Form {
 
     // The parts of the page in which it is read, one after the other; what lies in none comes last.
     void SetReadingAreas(std::vector<Rect> areas) { areas_ = std::move(areas); }
+    std::vector<Control*> InReadingOrder() const;
     // The place of a point among them.
     std::size_t AreaAt(Point point) const;
     // What leads back to the page before; null where there is none.

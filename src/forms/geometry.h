@@ -56,6 +56,7 @@ struct Rect {
     constexpr int right() const { return left + width; }
     constexpr int bottom() const { return top + height; }
     constexpr bool empty() const { return width <= 0 || height <= 0; }
+    constexpr Point Middle() const { return {left + width / 2, top + height / 2}; }
     constexpr bool Contains(Point p) const {
         return p.x >= left && p.x < right() && p.y >= top && p.y < bottom();
     }

@@ -86,6 +86,12 @@ void Stage::Press(const KeyPress& press) {
     focus_.Follow();
 }
 
+void Stage::Use(Control& control, bool click) {
+    CancelPress();
+    if (focus_.Take(control) && click) focus_.Click(control);
+    focus_.Follow();
+}
+
 void Stage::CancelPress() {
     if (repeat_due_) pressed_->EndPress();
     repeat_due_.reset();

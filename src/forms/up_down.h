@@ -20,6 +20,8 @@ class UpDown final : public Control {
 
     int value() const { return value_; }
     int minimum() const { return range_.minimum; }
+    int maximum() const { return range_.maximum; }
+    int increment() const { return increment_; }
     // Values outside the range are brought to its nearest end.
     void SetValue(int value);
     void SetIncrement(int increment) { increment_ = increment; }
@@ -42,7 +44,8 @@ class UpDown final : public Control {
     void Paint(Canvas& canvas) const override;
 
     bool IsStop() const override { return false; }
-    Control* Stop() override { return &answer_; }
+    using Control::Stop;
+    const Control* Stop() const override { return &answer_; }
     const Label& answer() const { return answer_; }
 
     std::function<void()> on_change;

@@ -1,6 +1,7 @@
 #include "learn/apprendre.h"
 
 #include "learn/table_pictures.h"
+#include "support/number_text.h"
 
 namespace onze {
 
@@ -9,7 +10,8 @@ namespace {
 constexpr Color kTitleRule{70, 110, 190};
 constexpr Color kPanelRule{190, 200, 220};
 
-const LabelStyle kTitle{.font = {18.0_pt, true}, .color = kInk, .align = Align::kCenter, .middle = true};
+const LabelStyle kTitle{
+    .role = Role::kHeading, .font = {18.0_pt, true}, .color = kInk, .align = Align::kCenter, .middle = true};
 
 // Rows 0 to 10 are small and evenly spaced; the last, for twelve times, is large.
 constexpr int kLastRow = 11;
@@ -24,6 +26,14 @@ Rect ProductBox(int i) {
     const int row = i / 3;
     const int top = row == kLastRow ? 418_px : 56_px + row * 31_px;
     return {154_px + i % 3 * 17_px, top, 36_px, 25_px};
+}
+
+// The slate for those who do not see it.
+std::string ProductsText(int table) {
+    std::string text = "Table de" + Str(table) + " :";
+    for (int i = 1; i <= kLastRow + 1; ++i)
+        text += (i == 1 ? "" : " ;") + Str(i) + " X" + Str(table) + " =" + Str(i * table);
+    return text;
 }
 
 }  // namespace
@@ -51,7 +61,9 @@ Apprendre::Apprendre(Stage& stage, SharedState& shared, PictureClip& anim, Form&
       depart_(depart) {
     form.on_activate = [this] { Form_Activate(); };
     form.SetBack(retour);
-    form.SetReadingAreas({{236_px, 44_px, 404_px, 95_px},
+    form.SetReadingAreas({{0, 0, 640_px, 44_px},  // the title, then the slate
+                          {0, 44_px, 236_px, 436_px},
+                          {236_px, 44_px, 404_px, 95_px},
                           {236_px, 139_px, 404_px, 122_px},
                           {236_px, 261_px, 404_px, 95_px},
                           {236_px, 356_px, 404_px, 95_px}});
@@ -62,6 +74,7 @@ void Apprendre::Prepare(int table) {
     ShowTableNumber(anim_, *this, table);
     ShowTableProducts(anim_, *this, table);
     titre.SetCaption(kPlayWithTable + Str(table));
+    multiplicateur[kLastRow + 1].SetName(ProductsText(table));
 }
 
 void Apprendre::Form_Activate() {

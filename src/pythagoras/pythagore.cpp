@@ -85,6 +85,8 @@ Pythagore::Pythagore(Stage& stage, SharedState& shared, Form& depart)
     for (int i = 0; i < kNumbers; ++i) {
         colonne[i].SetCaption(Digits(i));
         rangee[i].SetCaption(Digits(i));
+        colonne[i].SetName("dans la colonne");
+        rangee[i].SetName("dans la rangée");
         colonne[i].on_click = [this, i] { colonne_Click(i); };
         rangee[i].on_click = [this, i] { rangee_Click(i); };
     }

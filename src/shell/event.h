@@ -10,6 +10,8 @@
 
 namespace onze {
 
+class Control;
+
 // What a host tells the program. Positions are pixels of its window.
 namespace event {
 
@@ -42,6 +44,11 @@ struct PointerLost {};
 struct KeyPressed {
     KeyPress press;
 };
+// A screen reader asks for the focus on a control of the page, or for a click on it.
+struct Used {
+    Control* control;
+    bool click;
+};
 // By how much: 120 for each notch of a common wheel, above 0 when it turns away from the user.
 struct WheelTurned {
     Pixel at;
@@ -52,7 +59,7 @@ struct WheelTurned {
 
 using Event = std::variant<event::Started, event::WindowResized, event::TimePassed, event::PointerMoved,
                            event::PointerPressed, event::PointerReleased, event::PointerLost,
-                           event::KeyPressed, event::WheelTurned>;
+                           event::KeyPressed, event::Used, event::WheelTurned>;
 
 // What the host has to do now.
 struct Reaction {
@@ -67,7 +74,11 @@ struct Reaction {
     PixelBox repaint;                     // empty for nothing
     bool hand = false;                    // whether the pointer shows that a click would do something
     std::optional<std::int64_t> wake_at;  // the tick at which TimePassed is due
-    std::string say;                      // to a screen reader: the messages that changed
+    std::string say;                      // to a screen reader: the messages that changed, a line each
+
+    bool Says(const std::string& message) const {
+        return ("\n" + say + "\n").find("\n" + message + "\n") != std::string::npos;
+    }
 };
 
 }  // namespace onze

@@ -2,14 +2,11 @@
 // on it makes no calls but those of the save.
 #include <cstdio>
 
+#include "platform/data_files.h"
 #include "stats/usage_record.h"
 
-#ifdef _WIN32
-#include "platform/windows/data_files.h"
-#else
+#ifndef _WIN32
 #include <poll.h>
-
-#include "platform/qt/data_files.h"
 #endif
 
 using namespace onze;

@@ -11,8 +11,8 @@
 #include <tuple>
 
 #include "forms/up_down.h"
+#include "platform/data_files.h"
 #include "platform/qt/canvas.h"
-#include "platform/qt/data_files.h"
 #include "platform/qt/pictures.h"
 #include "shell/program.h"
 #include "support/headless_host.h"

@@ -4,8 +4,8 @@
 #include <filesystem>
 #include <fstream>
 
+#include "platform/data_files.h"
 #include "platform/qt/calendar.h"
-#include "platform/qt/data_files.h"
 
 namespace onze {
 

@@ -7,6 +7,7 @@
 
 #include "forms/label.h"
 #include "forms/up_down.h"
+#include "platform/qt/accessible.h"
 #include "platform/qt/host.h"
 #include "platform/qt/window.h"
 #include "support/random.h"
@@ -130,6 +131,41 @@ TEST_F(QtWindow, EndsAPressThatItCannotFinish) {
     QCoreApplication::sendEvent(&window, &moved);
     EXPECT_FALSE(stage.NextDue());
     QTest::mouseRelease(&window, Qt::LeftButton, {}, On(kOnUpperHalf));
+}
+
+// A reader sees names, roles, values; it has no other way to the program.
+TEST_F(QtWindow, AReaderReadsThePageAndAnswers) {
+    QAccessibleInterface* const page = window.accessibleRoot();
+    const auto find = [page](const QString& name) -> QAccessibleInterface* {
+        for (int i = 0; i < page->childCount(); ++i) {
+            if (page->child(i)->text(QAccessible::Name).startsWith(name)) return page->child(i);
+        }
+        return nullptr;
+    };
+    const auto press = [](QAccessibleInterface* item) {
+        item->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    };
+    program.screens().depart.form.Show();
+    press(find("Jouons avec la Table de 7"));
+    EXPECT_TRUE(program.stage().front() == &program.screens().apprendre.form);
+    EXPECT_EQ(find("Jouons avec la Table de 7")->role(), QAccessible::Heading);
+    EXPECT_TRUE(find("Table de 7 : 1 fois 7 égale 7 ; 2 fois 7 égale 14 ;"));
+
+    QAccessibleInterface* const factor = find("Réponse :");
+    EXPECT_EQ(factor->role(), QAccessible::SpinBox);
+    EXPECT_TRUE(factor->text(QAccessible::Name).endsWith(" égale 7 fois à trouver"));
+    EXPECT_EQ(factor->text(QAccessible::Value), "à trouver");
+    EXPECT_EQ(factor->valueInterface()->maximumValue().toInt(), 50);
+    EXPECT_TRUE(factor->state().focused);
+    EXPECT_TRUE(window.geometry().contains(factor->rect()));
+    factor->valueInterface()->setCurrentValue(50);
+    factor->actionInterface()->doAction(QAccessibleActionInterface::decreaseAction());
+    EXPECT_EQ(factor->text(QAccessible::Value), "49");
+    press(factor);
+    EXPECT_TRUE(find("Erreur !"));
+    EXPECT_EQ(page->focusChild()->text(QAccessible::Name), "Continuer");
+    EXPECT_EQ(factor->role(), QAccessible::StaticText);
+    EXPECT_TRUE(factor->actionInterface()->actionNames().isEmpty());
 }
 
 }  // namespace

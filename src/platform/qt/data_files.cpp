@@ -1,4 +1,4 @@
-#include "platform/qt/data_files.h"
+#include "platform/data_files.h"
 
 #include <fcntl.h>
 #include <pwd.h>
@@ -106,6 +106,10 @@ DataFolders FindDataFolders() {
     const fs::path& datas = is_installed ? installed : beside;
     const std::string key = FolderKey(fs::weakly_canonical(datas, none).string());
     return {datas, own.empty() ? own : own / (is_installed ? "datas" : key), key};
+}
+
+bool TakesFiles(const fs::path& folder) {
+    return access(folder.c_str(), W_OK) == 0;
 }
 
 std::optional<std::vector<std::byte>> FolderFiles::Read(std::string_view name) {

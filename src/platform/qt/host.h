@@ -3,8 +3,8 @@
 #include <chrono>
 
 #include "forms/clock.h"
+#include "platform/data_files.h"
 #include "platform/qt/calendar.h"
-#include "platform/qt/data_files.h"
 #include "platform/qt/desktop.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/pictures.h"

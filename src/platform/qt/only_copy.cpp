@@ -28,7 +28,7 @@ constexpr useconds_t kPauseUs = 10'000;
 // Where all users write into one folder they share one copy, else each has his own.
 std::string NameFor(const DataFolders& folders) {
     const std::string name = "onze-tables-" + folders.key;
-    return access(folders.datas.c_str(), W_OK) == 0 ? name : name + "-" + std::to_string(getuid());
+    return TakesFiles(folders.datas) ? name : name + "-" + std::to_string(getuid());
 }
 
 template <class Call>

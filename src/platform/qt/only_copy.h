@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/qt/data_files.h"
+#include "platform/data_files.h"
 #include "shell/other_copy.h"
 
 namespace onze {

@@ -11,6 +11,7 @@
 #include <chrono>
 #include <cmath>
 
+#include "platform/qt/accessible.h"
 #include "platform/qt/canvas.h"
 #include "platform/qt/host.h"
 #include "platform/qt/keys.h"
@@ -71,6 +72,7 @@ void Window::Follow(const Reaction& reaction) {
         QCoreApplication::exit(reaction.state == Reaction::State::kEnded ? 0 : 1);
         return;
     }
+    if (accessible_) accessible_->Tell(reaction);
     if (fills_screen_ != host_.desktop.fills_screen()) Present();
     if (!reaction.repaint.empty()) update(ToLogical(reaction.repaint));
     const Qt::CursorShape shape = reaction.hand ? Qt::PointingHandCursor : Qt::ArrowCursor;
@@ -122,6 +124,15 @@ void Window::paintEvent(QPaintEvent* event) {
     painter.setClipRect(shown & page_box);
     QtCanvas canvas(painter, program_.view(), host_.fonts, pictures_);
     Follow(program_.Paint(canvas, part));
+}
+
+QAccessibleInterface* Window::accessibleRoot() const {
+    if (!accessible_) accessible_ = new AccessiblePage(const_cast<Window&>(*this), program_);
+    return accessible_;
+}
+
+QRect Window::OnScreen(const Rect& part) const {
+    return ToLogical(program_.view().Around(part)).translated(geometry().topLeft());
 }
 
 Pixel Window::PixelAt(const QSinglePointEvent& event) const {

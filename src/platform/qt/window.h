@@ -9,6 +9,7 @@
 
 namespace onze {
 
+class AccessiblePage;
 struct QtHost;
 
 // The one window: it shows the page, brings events to the program and wakes up when the program wants it. The
@@ -22,6 +23,11 @@ class Window final : public QRasterWindow {
     // The text of what ended the program, if it failed.
     const std::string& failure() const { return failure_; }
 
+    void Take(const Event& event) { Follow(program_.Take(event)); }
+    // Where a part of the page lies on the screen.
+    QRect OnScreen(const Rect& part) const;
+    QAccessibleInterface* accessibleRoot() const override;
+
   protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -33,7 +39,6 @@ class Window final : public QRasterWindow {
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
-    void Take(const Event& event) { Follow(program_.Take(event)); }
     void Follow(const Reaction& reaction);
     void TellSize();
     void FollowScreen(const QRect& geometry);
@@ -49,6 +54,7 @@ class Window final : public QRasterWindow {
     QSize told_size_;  // in pixels
     bool fills_screen_ = false;
     std::string failure_;
+    mutable AccessiblePage* accessible_ = nullptr;  // Qt's, once a reader has asked for it
 };
 
 }  // namespace onze

@@ -1,4 +1,4 @@
-#include "platform/windows/data_files.h"
+#include "platform/data_files.h"
 
 #include <windows.h>
 
@@ -146,6 +146,7 @@ bool FolderFiles::Has(std::string_view name) const {
 
 bool FolderFiles::Remove(std::string_view name) {
     const fs::path file = folder_ / ToWide(name);
+    AllowWriting(file);
     return Insist([&] { return DeleteFileW(file.c_str()) != 0; });
 }
 

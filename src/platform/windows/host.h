@@ -3,8 +3,8 @@
 #include <chrono>
 
 #include "forms/clock.h"
+#include "platform/data_files.h"
 #include "platform/windows/calendar.h"
-#include "platform/windows/data_files.h"
 #include "platform/windows/desktop.h"
 #include "platform/windows/fonts.h"
 #include "platform/windows/gdi_plus.h"

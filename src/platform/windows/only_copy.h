@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "platform/windows/data_files.h"
+#include "platform/data_files.h"
 #include "shell/other_copy.h"
 
 namespace onze {

@@ -6,6 +6,8 @@
 
 namespace onze {
 
+// Of the systems that have a file system; each brings the functions.
+
 struct DataFolders {
     std::filesystem::path datas;
     std::filesystem::path
@@ -13,14 +15,16 @@ struct DataFolders {
     std::string key;  // tells data folders apart
 };
 
-// The data folder beside the executable.
+// The data folder beside the executable or, on Linux, where a package puts it: in share/onze-tables of the
+// same prefix.
 DataFolders FindDataFolders();
 
 // Whether the user may put files into a folder.
 bool TakesFiles(const std::filesystem::path& folder);
 
-// The files of a folder, or none where it has no name. A file to write that another program holds is waited
-// for, some seconds.
+// The files of a folder, or none where it has no name. On Linux a file that is replaced keeps its
+// permissions, and of a symbolic link the target is replaced. On Windows a file to write that another program
+// holds is waited for, some seconds.
 class FolderFiles final : public OwnFiles {
   public:
     explicit FolderFiles(std::filesystem::path folder) : folder_(std::move(folder)) {}

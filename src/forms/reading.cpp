@@ -1,0 +1,86 @@
+#include "forms/reading.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "forms/up_down.h"
+
+namespace onze {
+
+namespace {
+
+constexpr std::array<std::pair<std::string_view, std::string_view>, 6> kWords{
+    {{"X", "fois"}, {"x", "fois"}, {"=", "égale"}, {"+", "plus"}, {"-", "moins"}, {"??", "à trouver"}}};
+
+std::string_view WordFor(std::string_view sign) {
+    for (const auto& [written, said] : kWords) {
+        if (written == sign) return said;
+    }
+    return sign;
+}
+
+// "A=1," is said as "A égale 1,".
+std::string Spelled(std::string_view word) {
+    const std::size_t equals = word.find('=');
+    if (equals == std::string_view::npos || word.size() < 2) return std::string(WordFor(word));
+    return std::string(word.substr(0, equals)) + " égale " + std::string(word.substr(equals + 1));
+}
+
+// What can be clicked tells what that does, too.
+std::string NameOf(const Control& control) {
+    const std::string said = InWords(control.name());
+    const std::string& more = control.given_name();
+    return said == more || more.empty() || !control.IsStop() ? said : said + ", " + more;
+}
+
+// What stands in an answer as it is said: a mark of question alone stands for what is asked.
+std::string ValueOf(const Control& answer) {
+    return InWords(answer.name() == "?" ? "??" : answer.name());
+}
+
+// The line that an answer stands in, with what is still to be found in its place.
+std::string LineOf(const Control& answer, const Form& page) {
+    const Point middle = answer.box().Middle();
+    std::vector<const Control*> line;
+    for (const Control* control : page.controls()) {
+        const bool part = control->role() == Role::kText || control->role() == Role::kAnswer;
+        const Rect& box = control->box();
+        if (control->visible() && part && control->Stop() == control && !control->name().empty() &&
+            box.top <= middle.y && middle.y < box.bottom() &&
+            page.AreaAt(box.Middle()) == page.AreaAt(middle)) {
+            line.push_back(control);
+        }
+    }
+    std::ranges::sort(line, {}, [](const Control* control) { return control->box().left; });
+    std::string words = "Réponse :";
+    for (const Control* control : line) words += " " + ValueOf(*control);
+    return words;
+}
+
+}  // namespace
+
+std::string InWords(std::string_view text) {
+    std::string words;
+    for (std::size_t begin = 0; begin < text.size();) {
+        const std::size_t end = std::min(text.find_first_of(" \r", begin), text.size());
+        if (end > begin) words += (words.empty() ? "" : " ") + Spelled(text.substr(begin, end - begin));
+        begin = end + 1;
+    }
+    return words;
+}
+
+std::vector<ReadControl> ReadPage(const Form& page) {
+    std::vector<ReadControl> items;
+    for (Control* control : page.InReadingOrder()) {
+        if (!control->visible() || control->Stop() != control) continue;
+        if (control->arrows() && control->IsStop()) {
+            items.push_back({control, LineOf(*control, page), ValueOf(*control)});
+        } else if (std::string name = NameOf(*control); !name.empty()) {
+            items.push_back({control, std::move(name), ""});
+        }
+    }
+    return items;
+}
+
+}  // namespace onze
