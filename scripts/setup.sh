@@ -3,10 +3,11 @@
 build_packages="cmake g++ googletest ninja-build"
 linux_packages="fonts-liberation libsdl2-dev pkgconf qt6-base-dev qt6-wayland"
 windows_packages="g++-mingw-w64-x86-64-posix"
+windows32_packages="g++-mingw-w64-i686-posix"
 wine_packages="fonts-wine wine wine64"
 display_packages="imagemagick python3 strace xdotool xvfb"
 clang_packages="clang clang-format clang-tidy libclang-rt-14-dev"
-packaging_packages="appstream build-essential debhelper desktop-file-utils fakeroot imagemagick librsvg2-bin lintian nsis"
+packaging_packages="appstream build-essential debhelper desktop-file-utils fakeroot imagemagick librsvg2-bin lintian nsis zip"
 art_packages="librsvg2-bin pngquant python3 sox"
 bench_packages="kbruch python3-numpy python3-xlib tuxmath"
 

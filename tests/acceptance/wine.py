@@ -2,6 +2,7 @@
 
 import signal
 import subprocess
+import tempfile
 import threading
 from pathlib import Path
 
@@ -59,11 +60,18 @@ class WineDesk(Desk):
         self._probe.wait()
         super().__exit__(*failure)
 
-    def run(self, *command):
-        """Runs a Windows program to its end."""
+    def run(self, *command, output=subprocess.DEVNULL):
+        """Runs a Windows program to its end, and tells its exit status."""
         command = [*self.starter, *map(str, command)]
-        quiet = dict.fromkeys(("stdout", "stderr"), subprocess.DEVNULL)
-        return subprocess.run(command, env=self.environment(), timeout=PATIENCE, **quiet).returncode
+        environment = self.environment()
+        return subprocess.run(command, env=environment, timeout=PATIENCE, stdout=output, stderr=output).returncode
+
+    def told_by(self, *command):
+        """What it writes; to a file, since Wine's own processes would hold a pipe open."""
+        with tempfile.TemporaryFile("w+") as output:
+            self.run(*command, output=output)
+            output.seek(0)
+            return output.read()
 
     def tidy(self):
         self._told.clear()
