@@ -47,7 +47,7 @@ MembershipPanel::MembershipPanel(Form& form, SharedState& shared, Tally& tally)
     : ui{form}, exercise_(shared.sounds, tally, ui.enonce1, ui.encor_un, {&ui.factor}), shared_(shared) {
     ui.oui.on_click = [this] { oui_Click(); };
     ui.non.on_click = [this] { non_Click(); };
-    ui.chiffre2.on_click = [this] { chiffre2_Click(); };
+    exercise_.CorrectAt({&ui.chiffre2}, {&ui.factor}, [this] { chiffre2_Click(); });
     ui.encor_un.on_click = [this] { NewMembershipExercise(); };
 }
 
@@ -94,7 +94,6 @@ void MembershipPanel::non_Click() {
 
 void MembershipPanel::chiffre2_Click() {
     using enum Step;
-    if (!exercise_.AnswerGuard({&ui.factor})) return;
     const bool right = question_.IsRight(*ui.factor.entered());
     exercise_.GiveVerdict(right, question_.Correction(right),
                           {kClose, kCountVerdict, kPlay, kTell, kOffer, kCountExercise});

@@ -13,7 +13,7 @@ inline constexpr Color kBlue{0, 0, 255};
 inline constexpr Color kPurple{192, 0, 192};
 
 inline constexpr Color kArrowFill{255, 214, 102};
-inline constexpr Color kHeldArrowFill{240, 176, 48};
+inline constexpr Color kHeldFill{240, 176, 48};
 inline constexpr Color kKeyFoot{226, 166, 46};
 inline constexpr Color kArrowFrame{154, 103, 10};
 inline constexpr Color kArrowMark{92, 58, 0};
@@ -33,6 +33,7 @@ inline const LabelStyle kButton{.role = Role::kButton,
                                 .middle = true,
                                 .fill = Color{255, 224, 130},
                                 .foot = kKeyFoot,
+                                .held = kHeldFill,
                                 .frame = Color{154, 103, 10},
                                 .radius = 5_px,
                                 .outset = 3_px};

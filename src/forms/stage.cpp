@@ -42,7 +42,8 @@ void Stage::Forget(const Control& control) {
 
 void Stage::Move(Point point) {
     pointer_ = point;
-    if (pressed_ || !front()) return;
+    if (!front()) return;
+    if (pressed_) return pressed_->MovePress(front()->ControlAt(point) == pressed_);
     const Control* control = front()->ControlAt(point);
     const auto& handler = control && control->on_move ? control->on_move : front()->on_move;
     if (handler) handler();
@@ -77,7 +78,7 @@ void Stage::Release(Point point) {
 }
 
 void Stage::CancelPress() {
-    if (repeat_due_) pressed_->EndPress();
+    if (pressed_) pressed_->EndPress();
     repeat_due_.reset();
     pressed_ = nullptr;
 }
@@ -91,7 +92,7 @@ void Stage::Wheel(Point point, int notches) {
 
 bool Stage::ReactsToClickAt(Point point) const {
     const Control* control = front() ? front()->ControlAt(point) : nullptr;
-    return control && control->TakesClicks();
+    return control && control->TakesClickAt(point);
 }
 
 std::optional<std::int64_t> Stage::NextDue() const {

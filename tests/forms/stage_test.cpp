@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "forms/control_array.h"
-#include "forms/label.h"
+#include "forms/look.h"
 #include "forms/up_down.h"
-#include "support/headless_host.h"
+#include "support/writing_canvas.h"
 
 namespace onze {
 
@@ -57,6 +57,33 @@ TEST_F(StageTest, ClickIsPressAndReleaseOnTheSameControl) {
     EXPECT_EQ(clicks, 2);
 }
 
+TEST_F(StageTest, AHeldButtonTellsWhatItsReleaseWouldDo) {
+    Label key(form, {300_px, 300_px, 50_px, 20_px}, "Continuer", kButton);
+    const auto painted = [&] {
+        WritingCanvas canvas;
+        key.Paint(canvas);
+        return canvas.out.str();
+    };
+    const std::string at_rest = painted();
+    const Point on_key{310_px, 310_px};
+    const struct {
+        std::function<void()> act;
+        bool held;
+    } steps[] = {{[&] { stage.Move(on_key); }, false},    {[&] { stage.Press(on_key); }, true},
+                 {[&] { stage.Move({0, 0}); }, false},    {[&] { stage.Move(on_key); }, true},
+                 {[&] { stage.Release(on_key); }, false}, {[&] { stage.Press(on_key); }, true},
+                 {[&] { stage.CancelPress(); }, false},   {[&] { stage.Press(on_key); }, true},
+                 {[&] { key.on_click(); }, false}};
+    key.on_click = [&] { form.Hide(), form.Show(); };
+    for (const auto& [act, held] : steps) {
+        stage.TakeDamage();
+        const bool held_before = painted() != at_rest;
+        act();
+        EXPECT_EQ(painted() != at_rest, held) << &held - &steps[0].held;
+        EXPECT_EQ(stage.TakeDamage().Meets(key.box()), held != held_before);
+    }
+}
+
 TEST_F(StageTest, HiddenAndDisabledControlsLetThePointerThrough) {
     Image below(form, {100_px, 100_px, 50_px, 20_px});
     Image cover(form, {100_px, 100_px, 50_px, 20_px});
@@ -66,6 +93,8 @@ TEST_F(StageTest, HiddenAndDisabledControlsLetThePointerThrough) {
     cover.SetEnabled(false);
     EXPECT_EQ(form.ControlAt(kOnButton), &button);  // an image without handlers takes nothing
     EXPECT_TRUE(stage.ReactsToClickAt(kOnButton));
+    EXPECT_TRUE(stage.ReactsToClickAt(kUpperHalf));
+    EXPECT_FALSE(stage.ReactsToClickAt(kLowerHalf)) << "the arrows are at their minimum";
     button.Hide();
     EXPECT_EQ(form.ControlAt(kOnButton), nullptr);
     EXPECT_FALSE(stage.ReactsToClickAt(kOnButton));

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "support/pupil.h"
+#include "support/writing_canvas.h"
 
 namespace onze {
 
@@ -32,6 +33,22 @@ class PythagoreTest : public testing::Test {
         const auto enabled = [](const Label& label) { return label.enabled(); };
         return static_cast<std::size_t>(std::count_if(screen.colonne.begin(), screen.colonne.end(), enabled) +
                                         std::count_if(screen.rangee.begin(), screen.rangee.end(), enabled));
+    }
+
+    // The numbers that have a ring around them, and are red.
+    Names Marked() {
+        Names marked;
+        for (auto* side : {&screen.colonne, &screen.rangee}) {
+            for (const Label& label : *side) {
+                WritingCanvas canvas;
+                label.Paint(canvas);
+                const std::string painted = canvas.out.str();
+                if (!painted.starts_with("frame")) continue;
+                EXPECT_TRUE(painted.find("in 255,0,0 |") != std::string::npos);
+                marked.push_back(label.caption());
+            }
+        }
+        return marked;
     }
 
     // Lets time pass and tells how many milliseconds after `start` each sound was heard.
@@ -80,6 +97,23 @@ TEST_F(PythagoreTest, WordsOfAMultiplicationInTheOrderOfTheClicks) {
     }
     pupil.Click(screen.retour);
     EXPECT_EQ(pupil.Quit().PythagoreSolves, TaggedNumber::Integer(4));
+}
+
+TEST_F(PythagoreTest, ChosenNumbersAreMarkedUntilTheirBlinkEnds) {
+    pupil.Click(screen.rangee[4]);
+    EXPECT_EQ(Marked(), Names{"4"});
+    pupil.Click(screen.colonne[10]);
+    pupil.Wait(1999);
+    EXPECT_EQ(Marked(), (Names{"10", "4"}));
+    pupil.Wait(1);
+    EXPECT_EQ(Marked(), Names());
+    Solve(2, 6);
+    Leave();
+    Open();
+    EXPECT_EQ(Marked(), Names());
+    pupil.Click(screen.colonne[3]);
+    pupil.Wait(2000);
+    EXPECT_EQ(Marked(), Names{"3"}) << "the blink of the pair before has ended";
 }
 
 TEST_F(PythagoreTest, BarsCrossOnTheProduct) {

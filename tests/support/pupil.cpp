@@ -49,7 +49,7 @@ void Pupil::ClickIntoFull(const Control& control, const std::string& counter) {
 
 void Pupil::Tap(const Control& control) {
     const Pixel pixel = On(control);
-    program.Take(event::PointerMoved{pixel});
+    hand = program.Take(event::PointerMoved{pixel}).hand;
     program.Take(event::PointerPressed{.at = pixel});
     reaction = program.Take(event::PointerReleased{pixel});
 }
