@@ -60,6 +60,7 @@ void MembershipPanel::NewMembershipExercise() {
     question_ = MembershipQuestion::Draw(shared_.random);
     ui.chiffre1.SetCaption(Str(question_.number));
     ui.probleme1.SetCaption(question_.Text());
+    ui.probleme1.SetLeft(ui.chiffre1.box().right() + 3_px);
     ui.enonce1.SetCaption("Cliquez sur OUI ou NON pour répondre.");
     shared_.MembershipAnswer = question_.IsMember() ? 1 : 0;
 }
