@@ -65,7 +65,7 @@ def turned():
         return lambda c, r: (CORAL, SUN)[(c if turn else r) % 2]
     return (number("5×8", 146, 352, 15, INK) + array_of_counters(181, 338, 8, 5, 7, 2.9, stripes(False))
             + number("=", 250, 352, 13, INK)
-            + array_of_counters(270, 327.5, 5, 8, 7, 2.9, stripes(True)) + number("8×5", 334, 352, 15, INK))
+            + array_of_counters(270, 326.5, 5, 8, 7, 2.9, stripes(True)) + number("8×5", 334, 352, 15, INK))
 
 
 def product():
@@ -81,7 +81,7 @@ def result_of_eleven():
 
 
 NOTES = (
-    (box(4, 57, 193, 87), LEAF), (box(301, 68, 281, 73), CORAL), (box(71, 262, 294, 57), PLUM), (box(497, 229, 141, 65), SUN),
+    (box(4, 57, 193, 87), LEAF), (box(301, 68, 281, 73), CORAL), (box(77, 262, 289, 57), PLUM), (box(497, 229, 141, 65), SUN),
     (box(53, 383, 482, 61), CORAL), (box(6, 452, 524, 22), TEAL),
     (box(43, 153, 222, 100), SEA), (box(270, 153, 349, 55), LEAF),
     # The worked example hangs from its text.
@@ -94,5 +94,5 @@ def draw():
     return page("".join([
         seyes(), shelf(), fox.sitting(240, 147, .78), *(note(d, colour) for d, colour in NOTES),
         product(), added_and_tens(), turned(), long_multiplication(), result_of_eleven(),
-        array_of_counters(7, 268, 8, 7, 8, 3.2, lambda c, r: (PLUM, SEA)[r % 2]), pencil(23, 251, 94, SUN, turn=-90),
+        array_of_counters(12, 268, 8, 7, 8, 3.2, lambda c, r: (PLUM, SEA)[r % 2]), pencil(23, 251, 94, SUN, turn=-90),
     ]))

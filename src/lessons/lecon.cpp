@@ -68,7 +68,7 @@ Leçon::Leçon(Stage& stage, SharedState& shared, Form& depart)
       l2    { form, { 306_px,  72_px, 272_px,  64_px }, kWords,                Note(kLarge, kBlue) },
       l3    { form, { 271_px, 157_px, 344_px,  48_px }, kOrder,                Note(kLarge, kGreen, {-4_px, 0, 0, 0}) },
       l4    { form, {   9_px,  61_px, 184_px,  78_px }, kOneAndZero,           Note(kSmall, kInk) },
-      l5    { form, {  81_px, 264_px, 295_px,  52_px }, kMultiples,            Note(kSmall, kInk, {5_px, 0, -15_px, 0}) },
+      l5    { form, {  81_px, 264_px, 295_px,  52_px }, kMultiples,            Note(kSmall, kInk, {0, 0, -13_px, 0}) },
       l6    { form, { 501_px, 232_px, 141_px,  59_px }, kTimesTen,             Note(kSmall, kInk, {0, 0, -8_px, 0}) },
       l7    { form, {  11_px, 456_px, 515_px,  13_px }, kDigitTimesEleven,     Note(kSmall, kInk) },
       l8    { form, {  58_px, 386_px, 475_px,  55_px }, kTwoDigitsTimesEleven, Note(kSmall, kDarkRed) },
