@@ -13,7 +13,7 @@ namespace {
 constexpr const char* kUnreadable = "Image introuvable ou illisible";
 constexpr std::string_view kBackgrounds[] = {"11", "12", "13", "14", "15", "16"};
 
-PicturePtr IfLarger(PicturePtr picture, const Picture& than) {
+PicturePtr IfLarger(const PicturePtr& picture, const Picture& than) {
     const bool fits = picture && picture->WidthInPixels() == than.WidthInPixels() * kLargerTimes &&
                       picture->HeightInPixels() == than.HeightInPixels() * kLargerTimes;
     return fits ? picture : nullptr;
