@@ -43,6 +43,7 @@ class Label final : public Control {
     const LabelStyle& style() const { return style_; }
     void SetCaption(std::string caption);
     // A marked label keeps its colour while it is disabled, and has a ring where its style has one.
+    bool marked() const { return marked_; }
     void SetMarked(bool marked);
 
     // Its text; what has no text can still have been given a name.

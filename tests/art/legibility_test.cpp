@@ -44,21 +44,33 @@ double Contrast(double a, double b) {
 using Checks = std::map<std::tuple<std::string, int, int>, int>;
 constexpr int kChecksOfOneText = 8;
 
-// The contrast within a ground that has nothing but pale rulings.
-constexpr double kCalm = 1.35;
-
 using Faults = std::set<std::string>;
+
+// Of the pixels in a place, or of some of them.
+std::vector<double> Luminances(const QImage& image, const QRect& place, int stride) {
+    std::vector<double> luminances;
+    for (int y = place.top(); y <= place.bottom(); y += stride) {
+        for (int x = place.left(); x <= place.right(); x += stride)
+            luminances.push_back(Luminance(image.pixel(x, y)));
+    }
+    return luminances;
+}
+
+// Whether a ground has nothing but pale rulings.
+bool IsCalm(const std::vector<double>& ground) {
+    const auto [darkest, lightest] = std::minmax_element(ground.begin(), ground.end());
+    return Contrast(*darkest, *lightest) < 1.35;
+}
 
 // How large the steps of brightness are where there are any.
 double Sharpness(const QImage& image) {
+    const std::vector<double> pixels = Luminances(image, image.rect(), 1);
     double squares = 0;
     double sum = 1e-9;
-    for (int y = 0; y < image.height(); y += 4) {
-        for (int x = 1; x < image.width(); ++x) {
-            const double step = Luminance(image.pixel(x, y)) - Luminance(image.pixel(x - 1, y));
-            squares += step * step;
-            sum += std::abs(step);
-        }
+    for (std::size_t i = 1; i < pixels.size(); ++i) {
+        const double step = std::abs(pixels[i] - pixels[i - 1]);
+        squares += step * step;
+        sum += step;
     }
     return squares / sum;
 }
@@ -129,9 +141,7 @@ class LegibilityCanvas final : public Canvas {
             faults_.insert(Described(line, ink, screen_) + "contrast " + std::to_string(contrast) + ", " +
                            std::to_string(font.height / 20.0) + " points");
         }
-        const auto [darkest, lightest] = std::minmax_element(ground.begin(), ground.end());
-        if (Contrast(*darkest, *lightest) > kCalm)
-            faults_.insert(Described(line, ink, screen_) + "something is drawn there");
+        if (!IsCalm(ground)) faults_.insert(Described(line, ink, screen_) + "something is drawn there");
     }
 
     Rect InkOf(Point at, const std::string& line, const Font& font) const {
@@ -146,13 +156,7 @@ class LegibilityCanvas final : public Canvas {
         const PixelBox box = view_.ToPixels(place);
         const QRect pixels(box.left, box.top, box.width, box.height);
         if (pixels.isEmpty() || !image_.rect().contains(pixels)) return {0, 1};
-        const int stride = std::max(1, static_cast<int>(view_.enlargement()));
-        std::vector<double> luminances;
-        for (int y = pixels.top(); y <= pixels.bottom(); y += stride) {
-            for (int x = pixels.left(); x <= pixels.right(); x += stride)
-                luminances.push_back(Luminance(image_.pixel(x, y)));
-        }
-        return luminances;
+        return Luminances(image_, pixels, std::max(1, static_cast<int>(view_.enlargement())));
     }
 
     static double WorstTenth(std::vector<double> ground, Color color) {
@@ -244,17 +248,12 @@ class Reader {
         const PixelBox box = PageView(640, 480).ToPixels(control.HitBox());
         const QRect inside(box.left, box.top, box.width, box.height);
         const QImage& page = static_cast<const QtPicture&>(*program_.stage().front()->picture()).image();
-        double darkest = 1;
-        double lightest = 0;
+        std::vector<double> around;
         for (const QRect& strip : QRegion(inside.adjusted(-2, -2, 2, 2) & page.rect()) - QRegion(inside)) {
-            for (int y = strip.top(); y <= strip.bottom(); ++y) {
-                for (int x = strip.left(); x <= strip.right(); ++x) {
-                    darkest = std::min(darkest, Luminance(page.pixel(x, y)));
-                    lightest = std::max(lightest, Luminance(page.pixel(x, y)));
-                }
-            }
+            const std::vector<double> more = Luminances(page, strip, 1);
+            around.insert(around.end(), more.begin(), more.end());
         }
-        if (Contrast(darkest, lightest) > kCalm)
+        if (!IsCalm(around))
             faults_.insert(Described(control.name(), control.box(), displays_[0]) +
                            "a key touches something");
     }
