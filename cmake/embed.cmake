@@ -1,4 +1,4 @@
-# Writes the bytes of INPUT into the C++ source OUTPUT, as kAnim.
+# Writes the bytes of INPUT into the C++ source OUTPUT, as the constant NAME of services/anim.h.
 file(READ ${INPUT} hex HEX)
 string(REGEX REPLACE "([0-9a-f][0-9a-f])" "0x\\1," bytes "${hex}")
 string(REGEX REPLACE "(................................................................................)" "\\1\n" bytes "${bytes}")
@@ -9,5 +9,5 @@ constexpr unsigned char kBytes[] = {
 ${bytes}};
 }  // namespace
 
-const std::span<const std::byte> onze::kAnim = std::as_bytes(std::span(kBytes));
+const std::span<const std::byte> onze::${NAME} = std::as_bytes(std::span(kBytes));
 ")

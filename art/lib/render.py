@@ -10,18 +10,33 @@ from pathlib import Path
 from lib import icon, strip
 
 SCREENS = {"11": "apprendre", "12": "bilan", "13": "exercices", "14": "lecon", "15": "depart", "16": "pythagore"}
+LARGER = 3  # times as large, for pages that are shown enlarged
 
 
 def rasterize(svg, *options):
     return subprocess.run(["rsvg-convert", *options], input=svg.encode(), stdout=subprocess.PIPE, check=True).stdout
 
 
-def screen_picture(name):
-    """Opaque, 256 colours without dithering, so that calm ground stays calm."""
-    svg = importlib.import_module(f"screens.{name}").draw()
-    full = rasterize(svg, "--background-color", "#FFFDF6")
-    return subprocess.run(["pngquant", "--nofs", "--speed", "1", "--strip", "256", "-"], input=full, stdout=subprocess.PIPE,
+def in_few_colours(png):
+    """256 colours without dithering, so that calm ground stays calm."""
+    return subprocess.run(["pngquant", "--nofs", "--speed", "1", "--strip", "256", "-"], input=png, stdout=subprocess.PIPE,
                           check=True).stdout
+
+
+def screen_picture(name, times=1):
+    """Opaque."""
+    svg = importlib.import_module(f"screens.{name}").draw()
+    return in_few_colours(rasterize(svg, "--background-color", "#FFFDF6", "-z", str(times)))
+
+
+def enlarging(png, small):
+    """The picture with a note of the file that it is the larger one of, by the fingerprint that the program takes."""
+    fingerprint = 2166136261
+    for byte in small:
+        fingerprint = (fingerprint ^ byte) * 16777619 % 2**32
+    content = b"tEXtEnlarges\0%08x" % fingerprint
+    header_end = 33
+    return png[:header_end] + struct.pack(">I", len(content) - 4) + content + struct.pack(">I", zlib.crc32(content)) + png[header_end:]
 
 
 def pixels(png):
@@ -86,9 +101,12 @@ def zeroed_record():
 
 def main(datas, output):
     for name, screen in SCREENS.items():
-        (datas / name).write_bytes(screen_picture(screen))
+        small = screen_picture(screen)
+        (datas / name).write_bytes(small)
+        (datas / f"{name}.{LARGER}x").write_bytes(enlarging(screen_picture(screen, LARGER), small))
     (datas / "18").write_bytes(zeroed_record())
     (output / "anim.png").write_bytes(rasterize(strip.draw()))
+    (output / f"anim.{LARGER}x.png").write_bytes(in_few_colours(rasterize(strip.draw(), "-z", str(LARGER))))
     (output / "onze-tables.svg").write_text(icon.draw(512))
     (output / "onze-tables.png").write_bytes(rasterize(icon.draw(512), "-w", "512", "-h", "512"))
     (output / "onze-tables.ico").write_bytes(icon_file({size: icon.draw(size) for size in (16, 24, 32, 48, 64, 256)}))

@@ -6,13 +6,13 @@ from lib.svg import LINE, circle, ellipse, group, line, num, outlined, path, rec
 BRIGHT = (CORAL, SUN, LEAF, SEA, PLUM, TEAL, FOX)
 
 
-def seyes():
-    """Exercise-book paper: squares of 24 pixels, three fine lines in each, the margin line."""
+def seyes(top=0):
+    """Exercise-book paper: squares of 24 pixels, three fine lines in each, the margin line; blank above the top."""
     fine, bold = mix(PAPER, SKY, .16), mix(PAPER, SKY, .38)
     parts = [rect(0, 0, 640, 480, fill=PAPER)]
-    parts += [line(0, y + .5, 640, y + .5, fine) for y in range(6, 480, 6) if y % 24]
-    parts += [line(x + .5, 0, x + .5, 480, bold) for x in range(24, 640, 24)]
-    parts += [line(0, y + .5, 640, y + .5, bold) for y in range(24, 480, 24)]
+    parts += [line(0, y + .5, 640, y + .5, fine) for y in range(6, 480, 6) if y % 24 and y > top]
+    parts += [line(x + .5, top, x + .5, 480, bold) for x in range(24, 640, 24)]
+    parts += [line(0, y + .5, 640, y + .5, bold) for y in range(24, 480, 24) if y > top]
     parts.append(line(48.5, 0, 48.5, 480, mix(PAPER, CORAL, .5), 1.6))
     return "".join(parts)
 

@@ -4,7 +4,7 @@ from lib import fox
 from lib.lettering import number, width_of
 from lib.palette import CORAL, LEAF, PAPER, PLUM, SEA, SKY, SLATE, SUN, mix, tint
 from lib.strip import PITCH, SMALL
-from lib.svg import ellipse, line, outlined, page, rect
+from lib.svg import ellipse, line, outlined, page
 from lib.things import card, counter, cubes, pencil, seyes, slate, stick
 
 ROW_TOP, ROW_PITCH, ROW_HEIGHT = 56, 31, 25
@@ -43,6 +43,6 @@ def draw():
     sheets = [card(LEFT, top, WIDTH, height, colour, bar=5) for top, height, colour in PANELS]
     paws = [ellipse(x, 50, 8, 5.5, **outlined(fox.PAW)) for x in (32, 92)]
     return page("".join([
-        seyes(), rect(120, 2, 400, 42, 10, fill=PAPER), fox.head(62, 34, .47, mood="right"), board(), *paws, *sheets,
+        seyes(top=46), fox.head(62, 34, .47, mood="right"), board(), *paws, *sheets,
         cubes(550, 21, 15, (CORAL, SUN, LEAF, SEA)), tray(),
     ]))

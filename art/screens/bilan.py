@@ -6,7 +6,7 @@ from lib import fox
 from lib.lettering import number, sticker
 from lib.palette import CORAL, INK, LEAF, PLUM, SEA, SKY, SUN, TABLES, TEAL, mix, shade, tint
 from lib.svg import circle, group, line, outlined, page, path, rect, soft_shadow
-from lib.things import bunting, card, cube, seyes, star
+from lib.things import bunting, card, cube, open_book, seyes, star
 
 ROW_TOPS = (192, 219, 246, 272, 298, 323, 349, 375, 401, 427, 454)
 TEXT_MIDDLE = 10  # of a value, below its row's top
@@ -42,6 +42,16 @@ def training():
     return "".join(parts)
 
 
+def sentences():
+    """Each begins behind a picture of what it tells of: the page of reminders, the Pythagoras table."""
+    parts = [card(168, 66, 468, 31, SUN, radius=10), open_book(191, 89, 22, 14, CORAL), card(112, 101, 524, 45, SUN, radius=10)]
+    for i in range(4):
+        for j in range(4):
+            colour = SUN if i == j == 2 else tint(SEA, .3) if 2 in (i, j) and max(i, j) < 3 else tint(SKY, .55)
+            parts.append(rect(119 + 6 * j, 111.5 + 6 * i, 6, 6, **outlined(colour, 1)))
+    return "".join(parts)
+
+
 def towers():
     """Practice piles up."""
     parts = [soft_shadow(92, 470, 84, 5)]
@@ -65,6 +75,6 @@ def draw():
     arm = fox.arm("M24 -60C34 -62 44 -70 50 -84", (51, -88))
     stars = star(519, 176, 8, SUN, turn=-10) + star(612, 178, 10, LEAF, turn=12) + star(606, 240, 7, SEA, turn=-6)
     return page("".join([
-        seyes(), bunting(640, 8), card(140, 68, 494, 78, SUN, radius=12), grid(), training(), towers(),
-        fox.sitting(84, 300, .95, mood="right", right=arm, tail_side="left"), medal(566, 197), stars,
+        seyes(), bunting(640, 8), sentences(), grid(), training(), towers(),
+        fox.sitting(84, 306, .92, mood="right", right=arm, tail_side="left"), medal(566, 197), stars,
     ]))

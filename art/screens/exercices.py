@@ -6,12 +6,12 @@ from lib.svg import circle, line, outlined, page, path, rect
 from lib.things import abacus, bead_on, card, counter, cube, pencil, seyes, stick
 
 SHEETS = (  # left, top, right, bottom, colour
-    (6, 6, 317, 154, CORAL),  # the missing factor
-    (323, 6, 634, 154, SEA),  # the product
-    (6, 158, 634, 250, LEAF),  # two factors
-    (6, 254, 634, 332, PLUM),  # is it in the table?
-    (6, 336, 317, 474, SUN),  # the notes
-    (323, 336, 634, 449, TEAL),  # the sum
+    (2, 6, 317, 157, CORAL),  # the missing factor
+    (323, 6, 638, 157, SEA),  # the product
+    (2, 160, 638, 252, LEAF),  # two factors
+    (2, 255, 638, 333, PLUM),  # is it in the table?
+    (2, 336, 317, 474, SUN),  # the notes
+    (323, 336, 638, 449, TEAL),  # the sum
 )
 
 

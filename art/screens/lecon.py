@@ -1,7 +1,7 @@
 """The reminders page: a calm note for each text, and beside it what the text tells, shown with things."""
 
 from lib import fox
-from lib.lettering import number, width_of
+from lib.lettering import number
 from lib.palette import CORAL, INK, LEAF, PAPER, PLUM, SEA, SLATE, SUN, TEAL, WOOD, shade, tint
 from lib.svg import circle, group, line, outlined, page, path, rect
 from lib.things import apple, cube, cubes, open_book, pencil, pot, seyes, slate
@@ -37,14 +37,15 @@ def shelf():
 
 
 def long_multiplication():
-    """Under the worked example that the page writes at (550, 351): its two lines of working and its result."""
-    right = 581
+    """Under the worked example that the page writes at (550, 351): its two lines of working and its result, digit by digit
+    below its digits."""
+    right, pitch, high = 580, 7, 9.4
     def written(text, y, colour=INK):
-        return number(text, right - width_of(text, 10, gap=10) / 2, y, 10, colour, gap=10)
+        return number(text, right - len(text) * pitch / 2, y, high, colour, pitch=pitch)
     return "".join([
-        line(545, 386, 586, 386, INK, 1.6),
-        written("2394", 396, SEA), written("17100", 410, PLUM), number("+", 545, 403, 9, INK),
-        line(541, 418.5, 586, 418.5, INK, 1.6), written("19494", 428, shade(CORAL, .15)),
+        line(545, 384, 584, 384, INK, 1.6),
+        written("2394", 393, SEA), written("17100", 406.5, PLUM), number("+", 546, 393.5, 8, INK),
+        line(541, 415.5, 584, 415.5, INK, 1.6), written("19494", 424.5, shade(CORAL, .15)),
     ])
 
 
@@ -64,7 +65,7 @@ def turned():
         return lambda c, r: (CORAL, SUN)[(c if turn else r) % 2]
     return (number("5×8", 146, 352, 15, INK) + array_of_counters(181, 338, 8, 5, 7, 2.9, stripes(False))
             + number("=", 250, 352, 13, INK)
-            + array_of_counters(270, 327.5, 5, 8, 7, 2.9, stripes(True)) + number("8×5", 334, 352, 15, INK))
+            + array_of_counters(270, 326.5, 5, 8, 7, 2.9, stripes(True)) + number("8×5", 334, 352, 15, INK))
 
 
 def product():
@@ -80,10 +81,10 @@ def result_of_eleven():
 
 
 NOTES = (
-    (box(4, 57, 193, 87), LEAF), (box(301, 68, 281, 73), CORAL), (box(77, 261, 299, 58), PLUM), (box(497, 229, 141, 65), SUN),
+    (box(4, 57, 193, 87), LEAF), (box(301, 68, 281, 73), CORAL), (box(77, 262, 289, 57), PLUM), (box(497, 229, 141, 65), SUN),
     (box(53, 383, 482, 61), CORAL), (box(6, 452, 524, 22), TEAL),
-    # The first and the third reminder meet; so do the worked example and its text.
-    ("M50 153H612a7 7 0 0 1 7 7V203a7 7 0 0 1 -7 7H298V247a7 7 0 0 1 -7 7H50a7 7 0 0 1 -7 -7V160a7 7 0 0 1 7 -7Z", SEA),
+    (box(43, 153, 222, 100), SEA), (box(270, 153, 349, 55), LEAF),
+    # The worked example hangs from its text.
     ("M382 307H626a7 7 0 0 1 7 7V360a7 7 0 0 1 -7 7H594V431a7 7 0 0 1 -7 7H546a7 7 0 0 1 -7 -7V367H382"
      "a7 7 0 0 1 -7 -7V314a7 7 0 0 1 7 -7Z", PLUM),
 )
@@ -91,7 +92,7 @@ NOTES = (
 
 def draw():
     return page("".join([
-        seyes(), shelf(), fox.sitting(240, 147, .82), *(note(d, colour) for d, colour in NOTES),
+        seyes(), shelf(), fox.sitting(240, 147, .78), *(note(d, colour) for d, colour in NOTES),
         product(), added_and_tens(), turned(), long_multiplication(), result_of_eleven(),
         array_of_counters(12, 268, 8, 7, 8, 3.2, lambda c, r: (PLUM, SEA)[r % 2]), pencil(23, 251, 94, SUN, turn=-90),
     ]))

@@ -22,8 +22,8 @@ LabelStyle ReturnButton() {
 Exercices::Exercices(Stage& stage, SharedState& shared, Form& depart)
     : tally_(shared.counters),
       form(stage),
-      Line1(form, {180, 2340}, {9420, 2340}, 1_px, kRule),
-      Line2(form, {180, 3780}, {9420, 3780}, 1_px, kRule),
+      Line1(form, {180, 2370}, {9420, 2370}, 1_px, kRule),
+      Line2(form, {180, 3795}, {9420, 3795}, 1_px, kRule),
       Line3(form, {180, 5010}, {9420, 5010}, 1_px, kRule),
       Line4(form, {4800, 180}, {4800, 2265}, 1_px, kRule),
       Line5(form, {4800, 5085}, {4800, 7020}, 1_px, kRule),

@@ -35,8 +35,8 @@ FactorPairPanel::FactorPairPanel(Form& form, SharedState& shared, Tally& tally)
     : ui{form},
       exercise_(shared.sounds, tally, ui.texte2, ui.encor_trois, {&ui.first, &ui.second}),
       shared_(shared) {
-    ui.chiffre4.on_click = [this] { chiffre4_Click(); };
-    ui.chiffre5.on_click = [this] { chiffre5_Click(); };
+    exercise_.CorrectAt({&ui.chiffre4}, {&ui.first}, [this] { chiffre4_Click(); });
+    exercise_.CorrectAt({&ui.chiffre5}, {&ui.second}, [this] { chiffre5_Click(); });
     ui.encor_trois.on_click = [this] { NewFactorPairExercise(); };
 }
 
@@ -54,7 +54,6 @@ void FactorPairPanel::NewFactorPairExercise() {
 
 void FactorPairPanel::chiffre4_Click() {
     using enum Step;
-    if (!exercise_.AnswerGuard({&ui.first})) return;
     ui.first.Close();
     if (question_.IsDivisor(*ui.first.entered())) {
         AskForSecondFactor();
@@ -79,7 +78,6 @@ void FactorPairPanel::AskForSecondFactor() {
 
 void FactorPairPanel::chiffre5_Click() {
     using enum Step;
-    if (!exercise_.AnswerGuard({&ui.second})) return;
     const int divisor = *ui.first.entered();
     const bool right = question_.IsRight(divisor, *ui.second.entered());
     exercise_.GiveVerdict(right, question_.Correction(right, divisor),

@@ -26,6 +26,9 @@ struct FactorPairQuestion {
     std::string Correction(bool right, int divisor) const;
 };
 
+// The answers' frames keep off the equation before them and leave room for the arrows above.
+inline constexpr Margins kPairOutset{0, 2_px, 6_px, 2_px};
+
 // The third exercise, across the screen.
 class FactorPairPanel {
   public:
@@ -39,12 +42,12 @@ class FactorPairPanel {
         Form& form;
         //                   left  top   width height
         Label enonce3     { form, {  300, 2865,    0, 195 }, "dgdg",      AutoSized(kExerciseLine, AutoSize::kKeepLeft) };
-        Label chiffre4    { form, { 5595, 2865,  240, 195 }, kUnanswered, ExerciseAnswer({2_px, 3_px}) };
-        Label chiffre5    { form, { 1500, 2865,  240, 195 }, kUnanswered, ExerciseAnswer({2_px, 3_px}) };
+        Label chiffre4    { form, { 5595, 2865,  240, 195 }, kUnanswered, ExerciseAnswer(kPairOutset) };
+        Label chiffre5    { form, { 1500, 2865,  240, 195 }, kUnanswered, ExerciseAnswer(kPairOutset) };
         Label texte2      { form, {  300, 3135, 5220, 600 }, "",          kExerciseMessage };
         Label encor_trois { form, { 5595, 3450,  990, 240 }, "Continuer", kExerciseButton };
-        UpDown flech3     { form, ArrowOver(chiffre4),       { 3, 12 },   chiffre4 };
-        UpDown flech4     { form, ArrowOver(chiffre5),       { 0, 100 },  chiffre5 };
+        UpDown flech3     { form, ArrowOver(chiffre4, 24_px), { 3, 12 },   chiffre4 };
+        UpDown flech4     { form, ArrowOver(chiffre5, 24_px), { 0, 100 },  chiffre5 };
         Answer first      { chiffre4, flech3, Str, kUnanswered };
         Answer second     { chiffre5, flech4, Str, kUnanswered };
     } ui;

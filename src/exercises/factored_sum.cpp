@@ -34,8 +34,8 @@ FactoredSumPanel::FactoredSumPanel(Form& form, SharedState& shared, Tally& tally
     : ui{form},
       exercise_(shared.sounds, tally, ui.texte4, ui.encor_cinq, {&ui.cofactor, &ui.result}),
       shared_(shared) {
-    ui.chiffre7.on_click = [this] { chiffre7_Click(); };
-    ui.chiffre8.on_click = [this] { chiffre8_Click(); };
+    exercise_.CorrectAt({&ui.chiffre7}, {&ui.cofactor, &ui.result}, [this] { chiffre7_Click(); });
+    exercise_.CorrectAt({&ui.chiffre8}, {&ui.cofactor, &ui.result}, [this] { chiffre8_Click(); });
     ui.encor_cinq.on_click = [this] { NewFactoredSumExercise(); };
 }
 
@@ -54,7 +54,6 @@ void FactoredSumPanel::NewFactoredSumExercise() {
 
 void FactoredSumPanel::chiffre7_Click() {
     using enum Step;
-    if (!exercise_.AnswerGuard({&ui.cofactor, &ui.result})) return;
     const bool right = question_.IsRight(*ui.cofactor.entered(), *ui.result.entered());
     exercise_.GiveVerdict(right, question_.Correction(right),
                           {kClose, kOffer, kCountVerdict, kPlay, kTell, kCountExercise});

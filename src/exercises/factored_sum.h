@@ -39,9 +39,9 @@ class FactoredSumPanel {
         Form& form;
         //                  left  top   width height
         Label enonce5    { form, { 5190, 5520, 1545, 195 }, "dgdg",        Aligned(kExerciseLine, Align::kRight) };
-        Label chiffre7   { form, { 6810, 5520,  240, 195 }, kUnanswered,   ExerciseAnswer({3_px, 0}) };
+        Label chiffre7   { form, { 6810, 5520,  240, 195 }, kUnanswered,   ExerciseAnswer({1_px, 0, 4_px, 0}) };
         Label enonce6    { form, { 7110, 5520,  210, 195 }, " =",          kExerciseLine };
-        Label chiffre8   { form, { 7380, 5520,  240, 195 }, kUnanswered,   ExerciseAnswer({3_px, 0}) };
+        Label chiffre8   { form, { 7380, 5520,  240, 195 }, kUnanswered,   ExerciseAnswer({3_px, 0, 4_px, 0}) };
         Label texte4     { form, { 5040, 6105, 4350, 600 }, kEnterAnswers, kExerciseMessage };
         Label encor_cinq { form, { 7650, 5745,  990, 240 }, "Continuer",   kExerciseButton };
         UpDown flech6    { form, ArrowOver(chiffre7),       { 0, 100 },    chiffre7 };

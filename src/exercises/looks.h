@@ -23,20 +23,21 @@ inline LabelStyle ExerciseAnswer(Margins outset) {
     return style;
 }
 
-// One "Continuer" stands right below the corner of an answer, hence so little around a button.
+// One "Continuer" stands right below the corner of an answer, hence nothing above and below a button.
 inline const LabelStyle kExerciseButton = [] {
     LabelStyle style = kButton;
     style.font.height = 9.75_pt;
-    style.outset = 1_px;
+    style.outset = {3_px, 0};
     return style;
 }();
 
 // An arrow stands right over its answer, in the middle: within an equation there is no room at the sides.
-inline constexpr int kArrowLead = 8_px;  // how far it passes the answer to the left and to the right
+inline constexpr int kArrowLead = 8_px;  // how far it passes the answer's box to the left
 
-inline Rect ArrowOver(const Label& answer) {
-    const Rect& box = answer.box();
-    return {box.left - kArrowLead, answer.HitBox().top - 27_px, box.width + 2 * kArrowLead, 26_px};
+inline Rect ArrowOver(const Label& answer, int height = 26_px) {
+    const Rect place = answer.HitBox();
+    const int left = answer.box().left - kArrowLead;
+    return {left, place.top - height - 1_px, place.left + place.right() - 2 * left, height};
 }
 
 }  // namespace onze

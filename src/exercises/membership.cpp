@@ -47,7 +47,7 @@ MembershipPanel::MembershipPanel(Form& form, SharedState& shared, Tally& tally)
     : ui{form}, exercise_(shared.sounds, tally, ui.enonce1, ui.encor_un, {&ui.factor}), shared_(shared) {
     ui.oui.on_click = [this] { oui_Click(); };
     ui.non.on_click = [this] { non_Click(); };
-    ui.chiffre2.on_click = [this] { chiffre2_Click(); };
+    exercise_.CorrectAt({&ui.chiffre2}, {&ui.factor}, [this] { chiffre2_Click(); });
     ui.encor_un.on_click = [this] { NewMembershipExercise(); };
 }
 
@@ -60,6 +60,7 @@ void MembershipPanel::NewMembershipExercise() {
     question_ = MembershipQuestion::Draw(shared_.random);
     ui.chiffre1.SetCaption(Str(question_.number));
     ui.probleme1.SetCaption(question_.Text());
+    ui.probleme1.SetLeft(ui.chiffre1.box().right() + 3_px);
     ui.enonce1.SetCaption("Cliquez sur OUI ou NON pour répondre.");
     shared_.MembershipAnswer = question_.IsMember() ? 1 : 0;
 }
@@ -94,7 +95,6 @@ void MembershipPanel::non_Click() {
 
 void MembershipPanel::chiffre2_Click() {
     using enum Step;
-    if (!exercise_.AnswerGuard({&ui.factor})) return;
     const bool right = question_.IsRight(*ui.factor.entered());
     exercise_.GiveVerdict(right, question_.Correction(right),
                           {kClose, kCountVerdict, kPlay, kTell, kOffer, kCountExercise});

@@ -30,6 +30,13 @@ struct MembershipQuestion {
     std::string NoMember() const;
 };
 
+// It ends where the factor begins; its text keeps off the factor's frame.
+inline const LabelStyle kBeforeFactor = [] {
+    LabelStyle style = AutoSized(kExerciseLine, AutoSize::kKeepRight);
+    style.overhang = {3_px, 0, -3_px, 0};
+    return style;
+}();
+
 // The first exercise, below the third.
 class MembershipPanel {
   public:
@@ -42,11 +49,11 @@ class MembershipPanel {
     struct Ui {
         Form& form;
         //                 left  top   width height
-        Label chiffre1  { form, {  180, 3885,  420, 195 }, "",           Aligned(kExerciseLine, Align::kRight) };
+        Label chiffre1  { form, {  255, 3885,    0, 195 }, "",           AutoSized(kExerciseLine, AutoSize::kKeepLeft) };
         Label probleme1 { form, {  645, 3885, 3960, 195 }, "",           kExerciseLine };
         Label oui       { form, { 2940, 4515,  675, 255 }, "OUI",        kExerciseButton };
         Label non       { form, { 3870, 4515,  675, 255 }, "NON",        kExerciseButton };
-        Label lab       { form, { 3645, 4545,  120, 195 }, "",           AutoSized(kExerciseLine, AutoSize::kKeepRight) };
+        Label lab       { form, { 3645, 4545,  120, 195 }, "",           kBeforeFactor };
         Label chiffre2  { form, { 3765, 4545,  240, 195 }, kUnanswered,  ExerciseAnswer({0, 3_px, 3_px, 3_px}) };
         Label lab2      { form, { 4050, 4545,  600, 195 }, "",           kExerciseLine };
         Label enonce1   { form, { 4890, 3885, 4530, 600 }, "Cliquez sur OUI ou NON pour répondre", kExerciseMessage };

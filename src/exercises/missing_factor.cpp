@@ -21,7 +21,7 @@ std::string MissingFactorQuestion::Correction(bool right) const {
 
 MissingFactorPanel::MissingFactorPanel(Form& form, SharedState& shared, Tally& tally)
     : ui{form}, exercise_(shared.sounds, tally, ui.texte3, ui.encor_quatre, {&ui.factor}), shared_(shared) {
-    ui.chiffre6.on_click = [this] { chiffre6_Click(); };
+    exercise_.CorrectAt({&ui.chiffre6}, {&ui.factor}, [this] { chiffre6_Click(); });
     ui.encor_quatre.on_click = [this] { NewMissingFactorExercise(); };
 }
 
@@ -37,7 +37,6 @@ void MissingFactorPanel::NewMissingFactorExercise() {
 // A right answer is counted after its message, a wrong one before its sound.
 void MissingFactorPanel::chiffre6_Click() {
     using enum Step;
-    if (!exercise_.AnswerGuard({&ui.factor})) return;
     const bool right = question_.IsRight(*ui.factor.entered());
     const std::string text = question_.Correction(right);
     if (right) {

@@ -28,7 +28,7 @@ std::string NoteFactorQuestion::Explanation(const std::string& note) const {
 
 NoteFactorPanel::NoteFactorPanel(Form& form, SharedState& shared, Tally& tally)
     : ui{form}, exercise_(shared.sounds, tally, ui.texte5, ui.encor_six, {&ui.note}), shared_(shared) {
-    ui.chiffre9.on_click = [this] { chiffre9_Click(); };
+    exercise_.CorrectAt({&ui.chiffre9}, {&ui.note}, [this] { chiffre9_Click(); });
     ui.encor_six.on_click = [this] { NewNoteFactorExercise(); };
 }
 
@@ -46,7 +46,6 @@ void NoteFactorPanel::NewNoteFactorExercise() {
 // The note first shown is an answer, too. A right answer is counted after its sound, a wrong one before.
 void NoteFactorPanel::chiffre9_Click() {
     using enum Step;
-    if (!exercise_.AnswerGuard({&ui.note})) return;
     if (question_.IsRight(*ui.note.entered())) {
         exercise_.GiveVerdict(true, "Bravo ! ", {kClose, kOffer, kTell, kPlay, kCountVerdict});
     } else {

@@ -36,7 +36,7 @@ class NoteFactorPanel {
         Form& form;
         //                 left  top   width height
         Label texte5    { form, {  300, 5130, 4290, 720 }, "gsgsdgsd",  kExerciseMessage };
-        Label chiffre9  { form, { 1710, 6330,  240, 195 }, kUnanswered, ExerciseAnswer({4_px, 3_px}) };
+        Label chiffre9  { form, { 1710, 6330,  240, 195 }, kUnanswered, ExerciseAnswer({8_px, 3_px, 4_px, 3_px}) };
         Label enonce7   { form, { 2055, 6330, 1230, 195 }, "X",         kExerciseLine };
         Label encor_six { form, { 3375, 6525,  990, 240 }, "Continuer", kExerciseButton };
         UpDown flech8   { form, ArrowOver(chiffre9),       { 0, 6 },    chiffre9 };

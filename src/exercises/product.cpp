@@ -22,7 +22,7 @@ std::string ProductQuestion::Correction(bool right) const {
 
 ProductPanel::ProductPanel(Form& form, SharedState& shared, Tally& tally)
     : ui{form}, exercise_(shared.sounds, tally, ui.texte, ui.encor_deux, {&ui.product}), shared_(shared) {
-    ui.chiffre3.on_click = [this] { chiffre3_Click(); };
+    exercise_.CorrectAt({&ui.chiffre3}, {&ui.product}, [this] { chiffre3_Click(); });
     ui.encor_deux.on_click = [this] { NewProductExercise(); };
 }
 
@@ -37,7 +37,6 @@ void ProductPanel::NewProductExercise() {
 
 void ProductPanel::chiffre3_Click() {
     using enum Step;
-    if (!exercise_.AnswerGuard({&ui.product})) return;
     const bool right = question_.IsRight(*ui.product.entered());
     exercise_.GiveVerdict(right, question_.Correction(right),
                           {kOffer, kClose, kCountVerdict, kPlay, kTell, kCountExercise});

@@ -32,7 +32,7 @@ class ProductPanel {
         Form& form;
         //                  left  top   width height
         Label enonce2    { form, { 5160,  870, 1770, 195 }, "12 X",       Aligned(kExerciseLine, Align::kRight) };
-        Label chiffre3   { form, { 7020,  870,  240, 195 }, kUnanswered,  ExerciseAnswer(3_px) };
+        Label chiffre3   { form, { 7020,  870,  240, 195 }, kUnanswered,  ExerciseAnswer({3_px, 3_px, 5_px, 3_px}) };
         Label texte      { form, { 5040, 1260, 4350, 690 }, "",           kExerciseMessage };
         Label encor_deux { form, { 8445, 2025,  990, 240 }, "Continuer",  kExerciseButton };
         UpDown flech2    { form, ArrowOver(chiffre3),       { 0, 144 },   chiffre3 };

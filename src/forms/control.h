@@ -56,9 +56,10 @@ class Control {
     // Where the pointer finds the control, and what all its painting lies in.
     virtual Rect HitBox() const { return box_; }
     virtual Rect PaintedBox() const { return HitBox(); }
-    // Whether the pointer finds it, and whether a click on it would do something.
+    // Whether the pointer finds it, and whether a click on it, at this point, would do something now.
     virtual bool TakesPointer() const { return visible_ && enabled_ && (on_click || on_move); }
     virtual bool TakesClicks() const { return on_click != nullptr; }
+    virtual bool TakesClickAt(Point) const { return TakesClicks(); }
     virtual void Paint(Canvas& canvas) const = 0;
 
     // Whether the focus can stand on it: it can be used now. What belongs to another stop is none.
@@ -69,9 +70,11 @@ class Control {
     virtual UpDown* arrows() const { return nullptr; }
 
     // The pointer's button went down here; tells whether the press goes on by itself while it is held. Then
-    // it is repeated, wherever the pointer is by then, and ended.
+    // it is repeated, wherever the pointer is by then. Each press is ended.
     virtual bool BeginPress(Point) { return false; }
     virtual void RepeatPress(Point) {}
+    // The pointer moved while it is held, over the control or off it.
+    virtual void MovePress(bool) {}
     virtual void EndPress() {}
     // The wheel was turned by whole notches (positive: away from the user); tells whether that was meant for
     // it.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
 #include <string_view>
@@ -25,15 +26,27 @@ struct Font {
     friend bool operator==(const Font&, const Font&) = default;
 };
 
+class Picture;
+using PicturePtr = std::shared_ptr<const Picture>;
+
 // A picture of the platform's own, drawn at its own size: a pixel of it is a pixel of the page.
 class Picture {
   public:
     virtual ~Picture() = default;
     virtual int WidthInPixels() const = 0;
     virtual int HeightInPixels() const = 0;
+
+    // The same picture drawn larger, read anew; null where there is none. It is for who shows the page more
+    // than kWorthLarger times as large.
+    PicturePtr ReadLarger() const { return read_larger_ ? read_larger_() : nullptr; }
+    // Where a picture is, it can be told where its larger one is to be had.
+    void SetLarger(std::function<PicturePtr()> read) const { read_larger_ = std::move(read); }
+
+  private:
+    mutable std::function<PicturePtr()> read_larger_;
 };
 
-using PicturePtr = std::shared_ptr<const Picture>;
+inline constexpr double kWorthLarger = 1.2;
 
 // What a form paints on. Positions are twips of the page.
 class Canvas {

@@ -8,6 +8,9 @@ namespace onze {
 
 namespace {
 
+constexpr int kSunk = 1_px;  // how far the text of a held key goes down
+constexpr int kRingRadius = 7_px;
+
 std::string_view Trimmed(std::string_view text) {
     const auto first = std::min(text.find_first_not_of(' '), text.size());
     return text.substr(first, text.find_last_not_of(' ') + 1 - first);
@@ -28,6 +31,23 @@ void Label::SetCaption(std::string caption) {
     if (!visible()) return;
     Damage();
     if (role() == Role::kMessage) Tell(caption_);
+}
+
+void Label::SetMarked(bool marked) {
+    if (marked == marked_) return;
+    marked_ = marked;
+    if (visible()) Damage();
+}
+
+bool Label::BeginPress(Point) {
+    SetHeld(true);
+    return false;
+}
+
+void Label::SetHeld(bool held) {
+    if (held == held_ || !style_.held) return;
+    held_ = held;
+    if (visible()) Damage();
 }
 
 void Label::FollowText() {
@@ -57,17 +77,22 @@ bool Label::IsStop() const {
 }
 
 void Label::Paint(Canvas& canvas) const {
-    if (style_.fill)
+    if (held_) {
+        canvas.FillBox(HitBox(), *style_.held, style_.radius);
+    } else if (style_.fill) {
         FillKey(canvas, HitBox(), *style_.fill, style_.foot.value_or(*style_.fill), style_.radius);
+    }
     if (style_.frame) canvas.FrameBox(HitBox(), *style_.frame, style_.radius);
+    if (style_.ring && marked_) canvas.FrameBox(TextBox(), *style_.ring, kRingRadius);
     if (!caption_.empty()) PaintText(canvas);
 }
 
 void Label::PaintText(Canvas& canvas) const {
     const TextLayout layout = Layout();
     const Rect place = TextBox();
-    const Color color = enabled() ? style_.color : style_.disabled_color.value_or(style_.color);
-    int top = place.top;
+    const bool grey = style_.disabled_color && !enabled() && !marked_;
+    const Color color = grey ? *style_.disabled_color : style_.color;
+    int top = place.top + (held_ ? kSunk : 0);
     if (style_.middle) top += (place.height - layout.Height()) / 2;
     for (const TextLine& line : layout.lines) {
         int left = place.left;

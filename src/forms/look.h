@@ -19,7 +19,7 @@ inline constexpr int kFocusRing = 4_px;  // how far it passes what it is around
 inline constexpr int kFocusRadius = 6_px;
 
 inline constexpr Color kArrowFill{255, 214, 102};
-inline constexpr Color kHeldArrowFill{240, 176, 48};
+inline constexpr Color kHeldFill{240, 176, 48};
 inline constexpr Color kKeyFoot{226, 166, 46};
 inline constexpr Color kArrowFrame{154, 103, 10};
 inline constexpr Color kArrowMark{92, 58, 0};
@@ -39,6 +39,7 @@ inline const LabelStyle kButton{.role = Role::kButton,
                                 .middle = true,
                                 .fill = Color{255, 224, 130},
                                 .foot = kKeyFoot,
+                                .held = kHeldFill,
                                 .frame = Color{154, 103, 10},
                                 .radius = 5_px,
                                 .outset = 3_px};

@@ -45,7 +45,8 @@ void Stage::Forget(const Control& control) {
 void Stage::Move(Point point) {
     if (point != pointer_) focus_.YieldToPointer(nullptr);
     pointer_ = point;
-    if (pressed_ || !front()) return;
+    if (!front()) return;
+    if (pressed_) return pressed_->MovePress(front()->ControlAt(point) == pressed_);
     const Control* control = front()->ControlAt(point);
     const auto& handler = control && control->on_move ? control->on_move : front()->on_move;
     if (handler) handler();
@@ -93,7 +94,7 @@ void Stage::Use(Control& control, bool click) {
 }
 
 void Stage::CancelPress() {
-    if (repeat_due_) pressed_->EndPress();
+    if (pressed_) pressed_->EndPress();
     repeat_due_.reset();
     pressed_ = nullptr;
 }
@@ -127,7 +128,7 @@ Point Stage::NearestTarget(Point point, int least) const {
 
 bool Stage::ReactsToClickAt(Point point) const {
     const Control* control = front() ? front()->ControlAt(point) : nullptr;
-    return control && control->TakesClicks();
+    return control && control->TakesClickAt(point);
 }
 
 std::optional<std::int64_t> Stage::NextDue() const {

@@ -7,22 +7,37 @@ namespace onze {
 
 namespace {
 
-// A mark stays with the word before it, and a product in one piece.
-bool StayTogether(std::string_view word, std::string_view next) {
-    return next == "?" || next == "!" || next == ":" || next == "X" || word == "X";
+bool IsNumber(std::string_view word) {
+    return !word.empty() && word.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+// What is not broken by the end of a line: a sum, where it fits on one line, or else its sides.
+enum class Piece { kSum, kSide };
+
+// Whether a word stays with the next one: marks with the word before them, signs with what they join. A colon
+// and a dash are signs between numbers only.
+bool StayTogether(std::string_view before, std::string_view word, std::string_view next, Piece piece) {
+    if (next == "?" || next == "!" || next == ":" || next == "=" || next == "X" || next == "+") return true;
+    if (next == "-") return IsNumber(word);
+    if (word == "X" || word == "+") return true;
+    if (word == "-" || word == ":") return IsNumber(before) && IsNumber(next);
+    return word == "=" && piece == Piece::kSum;
 }
 
 // The end of the first word of a text, with what stays together with it.
-std::size_t WordEnd(std::string_view text) {
+std::size_t WordEnd(std::string_view text, Piece piece) {
     const auto end_of_word = [text](std::size_t start) {
         return std::min(text.find(' ', start), text.size());
     };
     std::size_t start = std::min(text.find_first_not_of(' '), text.size());
     std::size_t end = end_of_word(start);
+    std::string_view before;
     while (end < text.size()) {
         const std::size_t next_end = end_of_word(end + 1);
         const std::string_view next = text.substr(end + 1, next_end - end - 1);
-        if (!StayTogether(text.substr(start, end - start), next)) break;
+        const std::string_view word = text.substr(start, end - start);
+        if (!StayTogether(before, word, next, piece)) break;
+        before = word;
         start = end + 1;
         end = next_end;
     }
@@ -41,7 +56,7 @@ class Wrapper {
         std::string line;
         while (!text.empty()) {
             const auto word_start = std::min(text.find_first_not_of(' '), text.size());
-            const auto word_end = WordEnd(text);
+            const auto word_end = PieceEnd(text, word_start);
             const bool first = line.empty();
             if (!first && WidthOf(line + std::string(text.substr(0, word_end))) > width_) {
                 AddLine(std::move(line));
@@ -57,6 +72,13 @@ class Wrapper {
     TextLayout Take() { return std::move(layout_); }
 
   private:
+    std::size_t PieceEnd(std::string_view text, std::size_t start) {
+        const auto side_end = WordEnd(text, Piece::kSide);
+        const auto sum_end = WordEnd(text, Piece::kSum);
+        if (sum_end == side_end) return side_end;
+        return WidthOf(text.substr(start, sum_end - start)) <= width_ ? sum_end : side_end;
+    }
+
     int WidthOf(std::string_view line) { return measure_.MeasureText(line, layout_.font).width; }
 
     void AddLine(std::string line) {

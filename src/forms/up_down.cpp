@@ -41,8 +41,12 @@ void UpDown::SetValue(int value) {
 }
 
 void UpDown::Step(int direction) {
+    if (CanStep(direction)) SetValue(value_ + direction * increment_);
+}
+
+bool UpDown::CanStep(int direction) const {
     const int next = value_ + direction * increment_;
-    if (next >= range_.minimum && next <= range_.maximum) SetValue(next);
+    return next >= range_.minimum && next <= range_.maximum;
 }
 
 void UpDown::Enter(int value) {
@@ -104,7 +108,7 @@ void UpDown::PaintHalf(Canvas& canvas, int direction) const {
     const int height = box().height / 2;
     const Rect half{box().left, direction > 0 ? box().top : box().top + height, box().width, height};
     if (held_half_ == direction) {
-        canvas.FillBox(half, kHeldArrowFill, kArrowRadius);
+        canvas.FillBox(half, kHeldFill, kArrowRadius);
     } else {
         FillKey(canvas, half, kArrowFill, kKeyFoot, kArrowRadius);
     }

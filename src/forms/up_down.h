@@ -37,6 +37,7 @@ class UpDown final : public Control {
     const std::string& name() const override { return answer_.name(); }
     bool TakesPointer() const override { return visible() && enabled(); }
     bool TakesClicks() const override { return true; }
+    bool TakesClickAt(Point point) const override { return CanStep(HalfAt(point)); }
     bool BeginPress(Point point) override;
     void RepeatPress(Point pointer) override;
     void EndPress() override { SetHeldHalf(0); }
@@ -57,6 +58,7 @@ class UpDown final : public Control {
   private:
     // The half under a point: 1 (upper) or -1 (lower).
     int HalfAt(Point point) const { return point.y < box().top + box().height / 2 ? 1 : -1; }
+    bool CanStep(int direction) const;
     void SetHeldHalf(int direction);
     void PaintHalf(Canvas& canvas, int direction) const;
 

@@ -31,7 +31,7 @@ FactoringPanel::FactoringPanel(Form& form, SharedState& shared, Tally& tally)
     : ui{form},
       exercise_(shared.sounds, tally, ui.label_table1, ui.encore_un, {&ui.factor}),
       shared_(shared) {
-    ui.chiffre.on_click = [this] { chiffre_Click(); };
+    exercise_.CorrectAt({&ui.chiffre}, {&ui.factor}, [this] { chiffre_Click(); });
     ui.encore_un.on_click = [this] { NewFactoringQuestion(); };
 }
 
@@ -51,7 +51,6 @@ void FactoringPanel::Leave() {
 
 void FactoringPanel::chiffre_Click() {
     using enum Step;
-    if (!exercise_.AnswerGuard({&ui.factor})) return;
     const bool right = question_.IsRight(*ui.factor.entered());
     exercise_.GiveVerdict(right, question_.Correction(right),
                           {kCountExercise, kOffer, kClose, kPlay, kCountVerdict, kTell});

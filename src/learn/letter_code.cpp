@@ -17,7 +17,7 @@ std::string LetterCodeQuestion::Correction(bool right) const {
 
 LetterCodePanel::LetterCodePanel(Form& form, SharedState& shared, Tally& tally)
     : ui{form}, exercise_(shared.sounds, tally, ui.enonce3, ui.encore_trois, {&ui.letter}), shared_(shared) {
-    ui.chiffre4.on_click = [this] { chiffre4_Click(); };
+    exercise_.CorrectAt({&ui.chiffre4}, {&ui.letter}, [this] { chiffre4_Click(); });
     ui.encore_trois.on_click = [this] { NewLetterCodeQuestion(); };
 }
 
@@ -34,7 +34,6 @@ void LetterCodePanel::NewLetterCodeQuestion() {
 
 void LetterCodePanel::chiffre4_Click() {
     using enum Step;
-    if (!exercise_.AnswerGuard({&ui.letter})) return;
     const bool right = question_.IsRight(*ui.letter.entered());
     exercise_.GiveVerdict(right, question_.Correction(right),
                           {kCountExercise, kClose, kOffer, kPlay, kCountVerdict, kTell});

@@ -53,7 +53,7 @@ std::string MissingSignQuestion::Correction(bool right) const {
 
 MissingSignPanel::MissingSignPanel(Form& form, SharedState& shared, Tally& tally)
     : ui{form}, exercise_(shared.sounds, tally, ui.enonce4, ui.encore_quatre, {&ui.sign}), shared_(shared) {
-    ui.signe.on_click = [this] { signe_Click(); };
+    exercise_.CorrectAt({&ui.signe}, {&ui.sign}, [this] { signe_Click(); });
     ui.encore_quatre.on_click = [this] { NewMissingSignQuestion(); };
 }
 
@@ -69,7 +69,6 @@ void MissingSignPanel::NewMissingSignQuestion() {
 
 void MissingSignPanel::signe_Click() {
     using enum Step;
-    if (!exercise_.AnswerGuard({&ui.sign})) return;
     const bool right = question_.IsRight(*ui.sign.entered());
     exercise_.GiveVerdict(right, question_.Correction(right),
                           {kCountExercise, kClose, kOffer, kCountVerdict, kPlay, kTell});

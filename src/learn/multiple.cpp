@@ -66,7 +66,7 @@ MultiplePanel::MultiplePanel(Form& form, SharedState& shared, Tally& tally)
       shared_(shared) {
     ui.oui.on_click = [this] { oui_Click(); };
     ui.non.on_click = [this] { non_Click(); };
-    ui.chiffre2.on_click = ui.chiffre3.on_click = [this] { chiffre2_Click(); };
+    exercise_.CorrectAt({&ui.chiffre2, &ui.chiffre3}, {&ui.factor, &ui.sum}, [this] { chiffre2_Click(); });
     ui.encore_deux.on_click = [this] { NewMultipleQuestion(); };
 }
 
@@ -115,7 +115,6 @@ void MultiplePanel::non_Click() {
 
 void MultiplePanel::chiffre2_Click() {
     using enum Step;
-    if (!exercise_.AnswerGuard({&ui.factor, &ui.sum})) return;
     const bool right = question_.IsRightProduct(*ui.factor.entered(), *ui.sum.entered());
     const std::string text = question_.ProductCorrection(right);
     if (right) {

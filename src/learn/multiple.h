@@ -47,7 +47,8 @@ class MultiplePanel {
     void StepByTable() { ui.fleche3.SetIncrement(shared_.CurrentTable); }
     void NewMultipleQuestion();
 
-    // The arrows stand below their answers: the sum's place follows the product line before it.
+    // The arrows stand below their answers, whose middles they share: the sum's place follows the product
+    // line before it.
     // clang-format off
     struct Ui {
         Form& form;
@@ -55,12 +56,12 @@ class MultiplePanel {
         Label enonce2        { form, { 246_px, 147_px, 376_px, 48_px }, "",          kPanelMessage };
         Label oui            { form, { 340_px, 211_px,  60_px, 18_px }, "OUI",       kButton };
         Label non            { form, { 440_px, 211_px,  60_px, 18_px }, "NON",       kButton };
-        Label chiffre2       { form, { 246_px, 204_px,  40_px, 22_px }, kUnanswered, kPanelAnswer };
-        Label operation2     { form, { 290_px, 204_px,   0_px, 22_px }, "",          AutoSized(kPanelLine, AutoSize::kKeepLeft) };
-        Label chiffre3       { form, { 470_px, 204_px,  52_px, 22_px }, kUnanswered, kSumAnswer };
+        Label chiffre2       { form, { 246_px, 202_px,  40_px, 22_px }, kUnanswered, kPanelAnswer };
+        Label operation2     { form, { 290_px, 202_px,   0_px, 22_px }, "",          AutoSized(kPanelLine, AutoSize::kKeepLeft) };
+        Label chiffre3       { form, { 470_px, 202_px,  44_px, 22_px }, kUnanswered, kSumAnswer };
         Label encore_deux    { form, { 549_px, 236_px,  70_px, 16_px }, "Continuer", kButton };
-        UpDown fleche2       { form, { 246_px, 227_px,  22_px, 30_px }, { 0, 50 },   chiffre2 };
-        UpDown fleche3       { form, { 470_px, 227_px,  22_px, 30_px }, { 0, 1000 }, chiffre3 };
+        UpDown fleche2       { form, { 246_px, 225_px,  40_px, 28_px }, { 0, 50 },   chiffre2 };
+        UpDown fleche3       { form, { 470_px, 225_px,  52_px, 28_px }, { 0, 1000 }, chiffre3 };
         Answer factor        { chiffre2, fleche2, Digits, kUnanswered };
         Answer sum           { chiffre3, fleche3, Digits, kUnanswered };
     } ui;

@@ -12,14 +12,15 @@ constexpr Color kGreen{0, 128, 0};
 constexpr Font kLarge{9.75_pt, false};
 constexpr Font kSmall{8.25_pt, false};
 
-// A text may be kept off what reaches into its box from the right: another box, a line, the page's edge.
-LabelStyle Note(const Font& font, Color color, int kept_off = 0) {
-    return {.font = font, .color = color, .overhang = {0, 0, -kept_off, 0}};
+// A text may be kept off what reaches into its box: another box, a line, the page's edge.
+LabelStyle Note(const Font& font, Color color, const Margins& overhang = {}) {
+    return {.font = font, .color = color, .overhang = overhang};
 }
 
 // The worked example stands just behind the end of l10.
 const LabelStyle kBeforeL9{.font = kSmall, .color = kInk, .last_line_limit = 162_px};
-const LabelStyle kWorkedExample{.font = kSmall, .color = kInk, .align = Align::kRight};
+// Its digits are as large, as bold and as far apart as those that the picture goes on with.
+const LabelStyle kWorkedExample{.font = {9.5_pt, true}, .color = kInk, .align = Align::kRight};
 
 constexpr auto kRepeatedSum =
     "Une multiplication est une opération qui s'emploie pour calculer plus rapidement une addition dans "
@@ -63,12 +64,12 @@ Leçon::Leçon(Stage& stage, SharedState& shared, Form& depart)
       Line4{ form, { 145_px, 446_px }, { 452_px, 446_px }, 2_px, kDarkRed },
       Line5{ form, {  67_px, 148_px }, { 198_px, 148_px }, 2_px, kGreen },
       //              left    top     width   height
-      l1    { form, {  47_px, 157_px, 243_px,  96_px }, kRepeatedSum,          Note(kLarge, kDarkRed, 25_px) },
+      l1    { form, {  47_px, 157_px, 243_px,  96_px }, kRepeatedSum,          Note(kLarge, kDarkRed, {0, 0, -28_px, 0}) },
       l2    { form, { 306_px,  72_px, 272_px,  64_px }, kWords,                Note(kLarge, kBlue) },
-      l3    { form, { 271_px, 157_px, 344_px,  48_px }, kOrder,                Note(kLarge, kGreen) },
+      l3    { form, { 271_px, 157_px, 344_px,  48_px }, kOrder,                Note(kLarge, kGreen, {-4_px, 0, 0, 0}) },
       l4    { form, {   9_px,  61_px, 184_px,  78_px }, kOneAndZero,           Note(kSmall, kInk) },
-      l5    { form, {  81_px, 264_px, 295_px,  52_px }, kMultiples,            Note(kSmall, kInk, 8_px) },
-      l6    { form, { 501_px, 232_px, 141_px,  59_px }, kTimesTen,             Note(kSmall, kInk, 8_px) },
+      l5    { form, {  81_px, 264_px, 295_px,  52_px }, kMultiples,            Note(kSmall, kInk, {0, 0, -13_px, 0}) },
+      l6    { form, { 501_px, 232_px, 141_px,  59_px }, kTimesTen,             Note(kSmall, kInk, {0, 0, -8_px, 0}) },
       l7    { form, {  11_px, 456_px, 515_px,  13_px }, kDigitTimesEleven,     Note(kSmall, kInk) },
       l8    { form, {  58_px, 386_px, 475_px,  55_px }, kTwoDigitsTimesEleven, Note(kSmall, kDarkRed) },
       l9    { form, { 550_px, 351_px,  30_px,  33_px }, "",                    kWorkedExample },

@@ -19,9 +19,10 @@ const LabelStyle kNumber{.role = Role::kCell,
                          .font = {13.5_pt, true},
                          .color = kRed,
                          .disabled_color = kDisabled,
+                         .ring = kRed,
                          .align = Align::kCenter,
                          .middle = true,
-                         .overhang = 1_px};
+                         .overhang = 2_px};
 const LabelStyle kBar{.fill = kYellow, .frame = kBlack};
 const LabelStyle kOperation{.font = {13.5_pt, true}, .color = kRed, .middle = true};
 
@@ -97,7 +98,10 @@ Pythagore::Pythagore(Stage& stage, SharedState& shared, Form& depart)
         ShowBars(true);
     };
     blinker_.on_dark = [this] { ShowBars(false); };
-    blinker_.on_end = [this] { EnableNumbers(); };
+    blinker_.on_end = [this] {
+        EnableNumbers();
+        if (PythagoreStep == 0) UnmarkNumbers();
+    };
 }
 
 void Pythagore::Prepare() {
@@ -123,6 +127,7 @@ void Pythagore::rangee_Click(int j) {
 void Pythagore::retour_Click() {
     ReturnToStart(shared_.sounds, depart_, form);
     EnableNumbers();
+    UnmarkNumbers();
     PythagoreStep = 0;
 }
 
@@ -137,6 +142,8 @@ void Pythagore::CountPair() {
 
 void Pythagore::Choose(int number, ControlArray<Label>& side) {
     for (Label& label : side) label.SetEnabled(false);
+    if (PythagoreStep == 0) UnmarkNumbers();
+    side[number].SetMarked(true);
     if (PythagoreStep == 0) {
         PythagoreStep = 1;
         PythagoreFirst = number;
@@ -156,6 +163,13 @@ void Pythagore::EnableNumbers() {
     for (int i = 0; i < kNumbers; ++i) {
         colonne[i].SetEnabled(true);
         rangee[i].SetEnabled(true);
+    }
+}
+
+void Pythagore::UnmarkNumbers() {
+    for (int i = 0; i < kNumbers; ++i) {
+        colonne[i].SetMarked(false);
+        rangee[i].SetMarked(false);
     }
 }
 

@@ -35,6 +35,8 @@ class Pythagore {
     // Takes a number into the pair and closes the side that it came from.
     void Choose(int number, ControlArray<Label>& side);
     void EnableNumbers();
+    // A chosen number is marked until its pair is done with.
+    void UnmarkNumbers();
     void ShowBars(bool visible);
 
     SharedState& shared_;

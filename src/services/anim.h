@@ -5,7 +5,8 @@
 
 namespace onze {
 
-// The strip of digit pictures, as a picture file; built from art/output/anim.png.
+// The strip of digit pictures, as a picture file, and the same drawn larger; built from art/output.
 extern const std::span<const std::byte> kAnim;
+extern const std::span<const std::byte> kLargerAnim;
 
 }  // namespace onze

@@ -1,5 +1,6 @@
 #include "services/picture_clip.h"
 
+#include "services/screen_pictures.h"
 #include "support/run_time_error.h"
 
 namespace onze {
@@ -10,6 +11,13 @@ PicturePtr PictureClip::Clip() const {
                         ClipY + ClipHeight <= picture->HeightInPixels();
     PicturePtr clip = inside ? pictures.Clip(*picture, ClipX, ClipY, ClipWidth, ClipHeight) : nullptr;
     if (!clip) throw RunTimeError("Découpe hors de l'image.");
+    const auto cut_larger = [from = picture, &host = pictures, x = ClipX, y = ClipY, width = ClipWidth,
+                             height = ClipHeight]() -> PicturePtr {
+        constexpr int k = kLargerTimes;
+        const PicturePtr larger = from->ReadLarger();
+        return larger ? host.Clip(*larger, k * x, k * y, k * width, k * height) : nullptr;
+    };
+    clip->SetLarger(cut_larger);
     return clip;
 }
 

@@ -17,12 +17,4 @@ std::string UserFiles::PlaceOf(std::string_view name) const {
     return failed_ || IsOwn(name) ? own_.PlaceOf(name) : datas_.PlaceOf(name);
 }
 
-std::string FolderKey(std::string_view name) {
-    std::uint32_t hash = 2166136261;  // FNV-1a
-    for (const char c : name) hash = (hash ^ static_cast<unsigned char>(c)) * 16777619;
-    std::string key;
-    for (int shift = 28; shift >= 0; shift -= 4) key += "0123456789abcdef"[hash >> shift & 0xF];
-    return key;
-}
-
 }  // namespace onze

@@ -34,7 +34,4 @@ class UserFiles final : public DataFiles {
     bool failed_ = false;  // to write, last of all in the user's folder
 };
 
-// Tells folders apart by their whole names: 8 hexadecimal digits.
-std::string FolderKey(std::string_view name);
-
 }  // namespace onze

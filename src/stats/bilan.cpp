@@ -10,7 +10,9 @@ namespace {
 const LabelStyle kHeading{
     .font = {8.25_pt, true}, .color = kInk, .align = Align::kCenter, .overhang = {4_px, 0}};
 const LabelStyle kSentence{.font = {8.25_pt, true}, .color = kInk};
-const LabelStyle kValue{.font = {13.5_pt, true}, .color = kInk, .align = Align::kCenter};
+// The longest numbers keep off the rules between the columns.
+const LabelStyle kValue{
+    .font = {13.5_pt, true}, .color = kInk, .align = Align::kCenter, .overhang = {-5_px, 0}};
 
 // The boxes of a column's values, from the table of 2 down.
 auto Column(int left) {

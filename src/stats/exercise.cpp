@@ -10,9 +10,20 @@ Exercise::Exercise(Sounds& sounds, Tally& tally, Label& message, Label& encore,
     for (Answer* answer : answers_) answer->on_change = [this] { sounds_.PlayClickSound(); };
 }
 
-bool Exercise::AnswerGuard(std::initializer_list<const Answer*> answers) const {
-    return !encore_.visible() && std::all_of(answers.begin(), answers.end(),
-                                             [](const Answer* answer) { return answer->entered(); });
+void Exercise::CorrectAt(std::initializer_list<Label*> labels, const std::vector<const Answer*>& needed,
+                         const std::function<void()>& correct) {
+    for (Label* label : labels) {
+        label->counts_click = [this, needed] { return AnswerGuard(needed); };
+        label->on_click = [this, needed, correct] {
+            if (AnswerGuard(needed)) correct();
+        };
+    }
+}
+
+bool Exercise::AnswerGuard(const std::vector<const Answer*>& needed) const {
+    return !encore_.visible() && std::all_of(needed.begin(), needed.end(), [](const Answer* answer) {
+        return answer->entered().has_value();
+    });
 }
 
 void Exercise::GiveVerdict(bool right, const std::string& text, std::initializer_list<Step> steps) {

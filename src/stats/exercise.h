@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <initializer_list>
 #include <string>
 #include <vector>
@@ -29,13 +30,16 @@ class Exercise {
     Exercise(const Exercise&) = delete;
     Exercise& operator=(const Exercise&) = delete;
 
-    // Whether a click on an answer counts: each of these was entered, and the exercise is not over.
-    bool AnswerGuard(std::initializer_list<const Answer*> answers) const;
+    // Has a click on any of the labels corrected, where it counts.
+    void CorrectAt(std::initializer_list<Label*> labels, const std::vector<const Answer*>& needed,
+                   const std::function<void()>& correct);
     void CountExercise() { tally_.CountExercise(); }
     // Takes the steps of a correction, in this order.
     void GiveVerdict(bool right, const std::string& text, std::initializer_list<Step> steps);
 
   private:
+    // Whether a click on an answer counts: each of these was entered, and the exercise is not over.
+    bool AnswerGuard(const std::vector<const Answer*>& needed) const;
     void Take(Step step, bool right, const std::string& text);
 
     Sounds& sounds_;

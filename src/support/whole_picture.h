@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <span>
+#include <string_view>
 #include <vector>
 
 namespace onze {
@@ -9,6 +10,8 @@ namespace onze {
 // Whether a file is a PNG file, and whether such a file has its end. What follows the end does not matter.
 bool IsPng(std::span<const std::byte> file);
 bool HasPngEnd(std::span<const std::byte> file);
+// The first text that a PNG file holds, where it has this keyword; else nothing.
+std::string_view PngText(std::span<const std::byte> file, std::string_view keyword);
 
 // The picture, a shared pointer, that decode() makes of a file; null when it can make none or when the file
 // ends before its picture does. Loaders make up what a file lacks. A PNG file tells its end; in other formats

@@ -43,6 +43,10 @@ TEST_F(LabelTest, MarksAndProductsStayTogether) {
     EXPECT_EQ(Painted({0, 0, 450, 600}, "un deux ? !"), Line("0,0", "un") + Line("0,120", "deux ? !"));
     EXPECT_EQ(Painted({0, 0, 450, 600}, "28 = 4 X 7 = 28"),
               Line("0,0", "28 =") + Line("0,120", "4 X 7 =") + Line("0,240", "28"));
+    EXPECT_EQ(Painted({0, 0, 1000, 600}, "Exemple : 1 + 1 = 2 X 1 - 0"),
+              Line("0,0", "Exemple :") + Line("0,120", "1 + 1 = 2 X 1 - 0"));
+    EXPECT_EQ(Painted({0, 0, 550, 600}, "vrai car 56 : 8 = 7"),
+              Line("0,0", "vrai car") + Line("0,120", "56 : 8 = 7"));
 }
 
 TEST_F(LabelTest, AlignsInItsBox) {

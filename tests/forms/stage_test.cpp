@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "forms/control_array.h"
-#include "forms/label.h"
+#include "forms/look.h"
 #include "forms/up_down.h"
-#include "support/headless_host.h"
+#include "support/writing_canvas.h"
 
 namespace onze {
 
@@ -57,6 +57,26 @@ TEST_F(StageTest, ClickIsPressAndReleaseOnTheSameControl) {
     EXPECT_EQ(clicks, 2);
 }
 
+TEST_F(StageTest, AHeldKeyTellsWhatItsReleaseWouldDo) {
+    Label key(form, {300_px, 300_px, 50_px, 20_px}, "Continuer", kButton);
+    key.on_click = [&] { form.Hide(), form.Show(); };
+    const Point on_key{310_px, 310_px};
+    const auto looks = [&](const auto& act) {
+        act();
+        WritingCanvas canvas;
+        key.Paint(canvas);
+        const std::string damaged = stage.TakeDamage().Meets(key.box()) ? "painted, " : "";
+        return damaged + (canvas.out.str().find("in 240,176,48") < std::string::npos ? "held" : "at rest");
+    };
+    EXPECT_EQ(looks([&] { stage.Move(on_key); }), "at rest");
+    EXPECT_EQ(looks([&] { stage.Press(on_key); }), "painted, held");
+    EXPECT_EQ(looks([&] { stage.Move({0, 0}); }), "painted, at rest");
+    EXPECT_EQ(looks([&] { stage.Move(on_key); }), "painted, held");
+    EXPECT_EQ(looks([&] { stage.CancelPress(); }), "painted, at rest");
+    stage.Press(on_key);
+    EXPECT_EQ(looks([&] { stage.Release(on_key); }), "painted, at rest");
+}
+
 TEST_F(StageTest, HiddenAndDisabledControlsLetThePointerThrough) {
     Image below(form, {100_px, 100_px, 50_px, 20_px});
     Image cover(form, {100_px, 100_px, 50_px, 20_px});
@@ -66,6 +86,8 @@ TEST_F(StageTest, HiddenAndDisabledControlsLetThePointerThrough) {
     cover.SetEnabled(false);
     EXPECT_EQ(form.ControlAt(kOnButton), &button);  // an image without handlers takes nothing
     EXPECT_TRUE(stage.ReactsToClickAt(kOnButton));
+    EXPECT_TRUE(stage.ReactsToClickAt(kUpperHalf));
+    EXPECT_FALSE(stage.ReactsToClickAt(kLowerHalf)) << "the arrows are at their minimum";
     button.Hide();
     EXPECT_EQ(form.ControlAt(kOnButton), nullptr);
     EXPECT_FALSE(stage.ReactsToClickAt(kOnButton));

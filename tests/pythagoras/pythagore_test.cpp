@@ -34,6 +34,15 @@ class PythagoreTest : public testing::Test {
                                         std::count_if(screen.rangee.begin(), screen.rangee.end(), enabled));
     }
 
+    // The numbers that keep their colour, of the column, then of the row.
+    std::string Marked() {
+        std::string marked;
+        for (auto* side : {&screen.colonne, &screen.rangee}) {
+            for (const Label& label : *side) marked += label.marked() ? label.caption() + " " : "";
+        }
+        return marked;
+    }
+
     // Lets time pass and tells how many milliseconds after `start` each sound was heard.
     Times HearUntil(std::int64_t start, std::int64_t end) {
         Times times;
@@ -80,6 +89,23 @@ TEST_F(PythagoreTest, WordsOfAMultiplicationInTheOrderOfTheClicks) {
     }
     pupil.Click(screen.retour);
     EXPECT_EQ(pupil.Quit().PythagoreSolves, TaggedNumber::Integer(4));
+}
+
+TEST_F(PythagoreTest, ChosenNumbersAreMarkedUntilTheirBlinkEnds) {
+    pupil.Click(screen.rangee[4]);
+    EXPECT_EQ(Marked(), "4 ");
+    pupil.Click(screen.colonne[10]);
+    pupil.Wait(1999);
+    EXPECT_EQ(Marked(), "10 4 ");
+    pupil.Wait(1);
+    EXPECT_EQ(Marked(), "");
+    Solve(2, 6);
+    Leave();
+    Open();
+    EXPECT_EQ(Marked(), "");
+    pupil.Click(screen.colonne[3]);
+    pupil.Wait(2000);
+    EXPECT_EQ(Marked(), "3 ") << "the blink of the pair before has ended";
 }
 
 TEST_F(PythagoreTest, BarsCrossOnTheProduct) {

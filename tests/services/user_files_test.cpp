@@ -102,8 +102,6 @@ TEST_F(UserFilesTest, ReportsNameTheFileConcerned) {
     own.host.files["18"] = "\2";
     own.readable = false;
     EXPECT_EQ(ConsultReminders(), "Fichier des compteurs introuvable ou illisible : « chez moi/18 ».");
-    EXPECT_EQ(FolderKey("datas"), FolderKey("datas"));
-    EXPECT_NE(FolderKey("C:\\Zoé\\datas"), FolderKey("C:\\Léo\\datas"));
 }
 
 }  // namespace

@@ -132,6 +132,7 @@ void Sitting::Play(const Way& way, std::size_t deeds) {
 void Sitting::Do(const Deed& deed, bool right) {
     if (deed.clicked) {
         Click(*deed.clicked);
+        EXPECT_TRUE(hand);
         EXPECT_EQ(Heard(), Names{Verdict(right)});
         EXPECT_EQ(Seen(controls_), deed.seen);
         exercise_.check();
@@ -149,7 +150,9 @@ void Sitting::TapWhatIsDead() {
     const std::string seen = Seen(controls_);
     if (!exercise_.encore.visible() && ("|" + seen).find("|?") == std::string::npos) return;
     for (const Control* control : controls_) {
-        if (control->visible() && control->on_click && control != &exercise_.encore) Tap(*control);
+        if (!control->visible() || !control->on_click || control == &exercise_.encore) continue;
+        Tap(*control);
+        EXPECT_FALSE(hand);
     }
     EXPECT_EQ(Seen(controls_), seen);
     EXPECT_EQ(Heard(), Names());

@@ -73,7 +73,7 @@ void Pupil::Tap(const Control& control) {
         return;
     }
     const Pixel pixel = On(control);
-    program.Take(event::PointerMoved{pixel});
+    hand = program.Take(event::PointerMoved{pixel}).hand;
     program.Take(event::PointerPressed{.at = pixel});
     reaction = program.Take(event::PointerReleased{pixel});
 }

@@ -62,6 +62,7 @@ class Pupil {
     Program program;
     const Reaction start;
     Reaction reaction;  // to the last click
+    bool hand = false;  // which the pointer was just before
     Screens& screens;
 
   private:

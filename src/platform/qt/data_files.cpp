@@ -12,6 +12,8 @@
 #include <fstream>
 #include <string>
 
+#include "support/fingerprint.h"
+
 namespace onze {
 
 namespace fs = std::filesystem;
@@ -104,7 +106,7 @@ DataFolders FindDataFolders() {
     const fs::path own = DataHome().empty() ? fs::path() : DataHome() / "onze-tables";
     const bool is_installed = !fs::is_directory(beside, none) && fs::is_directory(installed, none);
     const fs::path& datas = is_installed ? installed : beside;
-    const std::string key = FolderKey(fs::weakly_canonical(datas, none).string());
+    const std::string key = Fingerprint(fs::weakly_canonical(datas, none).string());
     return {datas, own.empty() ? own : own / (is_installed ? "datas" : key), key};
 }
 

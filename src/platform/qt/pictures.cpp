@@ -21,6 +21,12 @@ std::shared_ptr<const QtPicture> DecodeAny(std::span<const std::byte> bytes) {
 
 }  // namespace
 
+const QImage& QtPicture::LargestImage() const {
+    if (!largest_) largest_ = std::static_pointer_cast<const QtPicture>(ReadLarger());
+    if (!largest_) largest_ = std::make_shared<const QtPicture>(image_);
+    return largest_->image_;
+}
+
 PicturePtr QtPictures::Decode(std::string_view, std::span<const std::byte> file) {
     return DecodeWhole(file, DecodeAny);
 }

@@ -1,7 +1,5 @@
 #include "platform/qt/scaled_pictures.h"
 
-#include "platform/qt/enlarge.h"
-
 namespace onze {
 
 namespace {
@@ -14,9 +12,7 @@ QImage::Format FastFormat(const QImage& image) {
 }
 
 QImage Scaled(const QImage& image, QSize size) {
-    QImage fast = image.convertToFormat(FastFormat(image));
-    if (size == image.size()) return fast;
-    if (size.width() >= image.width() && size.height() >= image.height()) return Enlarged(fast, size);
+    const QImage fast = image.convertToFormat(FastFormat(image));
     return fast.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).convertToFormat(fast.format());
 }
 
@@ -26,7 +22,8 @@ QImage ScaledPictures::AtSize(const QtPicture& picture, QSize size, QSize page) 
     const qint64 key = picture.image().cacheKey();
     const QImage* kept = kept_.object(key);
     if (kept && kept->size() == size) return *kept;
-    QImage scaled = Scaled(picture.image(), size);
+    const bool enlarged = size.width() > kWorthLarger * picture.WidthInPixels();
+    QImage scaled = Scaled(enlarged ? picture.LargestImage() : picture.image(), size);
     // Half as much again for the small pictures on it.
     kept_.setMaxCost(kBytesPerPixel * page.width() * page.height() * 3 / 2);
     kept_.insert(key, new QImage(scaled), scaled.sizeInBytes());

@@ -20,6 +20,14 @@ namespace onze {
 
 namespace {
 
+constexpr QColor kPaper(255, 253, 246);
+constexpr QColor kRule(222, 237, 243);
+constexpr int kRuling = 24_px;
+
+bool ReadAhead(const PicturePtr& picture) {
+    return picture && static_cast<const QtPicture&>(*picture).ReadAhead();
+}
+
 event::PointerPressed Pressed(const QMouseEvent& event, Pixel at, double pixel_ratio) {
     const QStyleHints& hints = *QGuiApplication::styleHints();
     const bool finger = event.deviceType() == QInputDevice::DeviceType::TouchScreen;
@@ -37,6 +45,7 @@ Window::Window(Program& program, QtHost& host) : program_(program), host_(host) 
     timer_.setSingleShot(true);
     timer_.setTimerType(Qt::PreciseTimer);
     QObject::connect(&timer_, &QTimer::timeout, this, [this] { Take(event::TimePassed()); });
+    QObject::connect(&next_, &QTimer::timeout, this, &Window::ReadNext);
 }
 
 void Window::Present() {
@@ -53,6 +62,7 @@ void Window::Present() {
         showNormal();
     }
     TellSize();
+    ReadFirst();
 }
 
 void Window::FollowScreen(const QRect& geometry) {
@@ -112,7 +122,42 @@ void Window::resizeEvent(QResizeEvent*) {
     TellSize();
 }
 
+void Window::ReadFirst() {
+    if (!to_read_.empty() || !program_.stage().front()) return;
+    const Screens& screens = program_.screens();
+    to_read_ = {screens.bilan.form.picture(),       screens.pythagore.form.picture(),
+                screens.leçon.form.picture(),       screens.exercices.form.picture(),
+                screens.divers.anim.picture,        screens.apprendre.form.picture(),
+                program_.stage().front()->picture()};
+    if (program_.view().enlargement() <= kWorthLarger) return;
+    first_ = std::jthread([picture = to_read_.back()] { ReadAhead(picture); });
+}
+
+void Window::ReadNext() {
+    bool has_read = false;
+    while (!has_read && !to_read_.empty()) {
+        has_read = ReadAhead(to_read_.back());
+        to_read_.pop_back();
+    }
+    if (to_read_.empty()) next_.stop();
+}
+
+// The paper of the pages goes on beside the page.
+void Window::PaintGround(QPainter& painter, const QRegion& region) const {
+    const PageView& view = program_.view();
+    const int line = view.LengthToPixels(1_px);
+    for (const QRect& bar : region) {
+        painter.fillRect(bar, kPaper);
+        const Rect on_page = view.Around(PixelBox{bar.left(), bar.top(), bar.width(), bar.height()});
+        for (int y = on_page.top / kRuling * kRuling; y < on_page.bottom(); y += kRuling)
+            painter.fillRect(bar & QRect(bar.left(), view.ToPixels(Point{0, y}).y, bar.width(), line), kRule);
+        for (int x = on_page.left / kRuling * kRuling; x < on_page.right(); x += kRuling)
+            painter.fillRect(bar & QRect(view.ToPixels(Point{x, 0}).x, bar.top(), line, bar.height()), kRule);
+    }
+}
+
 void Window::paintEvent(QPaintEvent* event) {
+    if (first_.joinable()) first_.join();
     TellSize();  // which changes with the screen's scale, too
     const PixelBox part = ToPixels(event->region().boundingRect());
     const QRect shown(part.left, part.top, part.width, part.height);
@@ -120,10 +165,11 @@ void Window::paintEvent(QPaintEvent* event) {
     const QRect page_box(page.left, page.top, page.width, page.height);
     QPainter painter(this);
     painter.scale(1 / devicePixelRatio(), 1 / devicePixelRatio());
-    for (const QRect& bar : QRegion(shown).subtracted(page_box)) painter.fillRect(bar, Qt::black);
+    PaintGround(painter, QRegion(shown).subtracted(page_box));
     painter.setClipRect(shown & page_box);
     QtCanvas canvas(painter, program_.view(), host_.fonts, pictures_);
     Follow(program_.Paint(canvas, part));
+    if (!to_read_.empty() && program_.view().enlargement() > kWorthLarger) next_.start();
 }
 
 QAccessibleInterface* Window::accessibleRoot() const {

@@ -3,6 +3,7 @@
 #include <QRasterWindow>
 #include <QSinglePointEvent>
 #include <QTimer>
+#include <thread>
 
 #include "platform/qt/scaled_pictures.h"
 #include "shell/program.h"
@@ -42,6 +43,11 @@ class Window final : public QRasterWindow {
     void Follow(const Reaction& reaction);
     void TellSize();
     void FollowScreen(const QRect& geometry);
+    void PaintGround(QPainter& painter, const QRegion& region) const;
+    // Enlarged pages need their larger pictures: the first one's is read while the window comes up, the
+    // others' one by one when there is nothing else to do.
+    void ReadFirst();
+    void ReadNext();
 
     Pixel PixelAt(const QSinglePointEvent& event) const;
     QRect ToLogical(const PixelBox& pixels) const;
@@ -50,6 +56,9 @@ class Window final : public QRasterWindow {
     Program& program_;
     QtHost& host_;
     QTimer timer_;
+    std::jthread first_;
+    QTimer next_;
+    std::vector<PicturePtr> to_read_;  // the last one first
     ScaledPictures pictures_;
     QSize told_size_;  // in pixels
     bool fills_screen_ = false;

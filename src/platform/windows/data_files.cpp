@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "platform/windows/utf8.h"
+#include "support/fingerprint.h"
 
 namespace onze {
 
@@ -104,7 +105,7 @@ DataFolders FindDataFolders() {
     }
     name.resize(length);
     const fs::path datas = fs::path(name).parent_path() / L"datas";
-    const std::string key = FolderKey(ToUtf8(FinalName(datas)));
+    const std::string key = Fingerprint(ToUtf8(FinalName(datas)));
     const wchar_t* const home = _wgetenv(L"APPDATA");
     return {datas, home && *home ? fs::path(home) / L"Onze Tables" / key : fs::path(), key};
 }

@@ -31,8 +31,10 @@ const GdiBitmap& GdiPicture::AtSize(int width, int height) const {
     if (width == bitmap_.width() && height == bitmap_.height()) return bitmap_;
     if (scaled_ && scaled_->width() == width && scaled_->height() == height) return *scaled_;
     scaled_ = std::make_unique<GdiBitmap>(width, height);
-    Gdiplus::Bitmap from(bitmap_.width(), bitmap_.height(), 4 * bitmap_.width(), PixelFormat32bppPARGB,
-                         reinterpret_cast<BYTE*>(bitmap_.Row(0)));
+    const PicturePtr larger = width > kWorthLarger * bitmap_.width() ? ReadLarger() : nullptr;
+    const GdiBitmap& source = larger ? static_cast<const GdiPicture&>(*larger).bitmap_ : bitmap_;
+    Gdiplus::Bitmap from(source.width(), source.height(), 4 * source.width(), PixelFormat32bppPARGB,
+                         reinterpret_cast<BYTE*>(source.Row(0)));
     Gdiplus::Bitmap to(width, height, 4 * width, PixelFormat32bppPARGB,
                        reinterpret_cast<BYTE*>(scaled_->Row(0)));
     Gdiplus::Graphics graphics(&to);
@@ -41,7 +43,7 @@ const GdiBitmap& GdiPicture::AtSize(int width, int height) const {
     graphics.SetPixelOffsetMode(Gdiplus::PixelOffsetModeHalf);
     Gdiplus::ImageAttributes mirrored;  // at its edges, which else would mix with what is not there
     mirrored.SetWrapMode(Gdiplus::WrapModeTileFlipXY);
-    graphics.DrawImage(&from, Gdiplus::Rect(0, 0, width, height), 0, 0, bitmap_.width(), bitmap_.height(),
+    graphics.DrawImage(&from, Gdiplus::Rect(0, 0, width, height), 0, 0, source.width(), source.height(),
                        Gdiplus::UnitPixel, &mirrored);
     return *scaled_;
 }
