@@ -64,11 +64,15 @@ Page custom ShowChoice TakeChoice
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE "French"
 
-!macro EACH_FILE DO
-    !insertmacro ${DO} "onze-tables.exe"
+!macro EACH_SHARED_FILE DO
     !insertmacro ${DO} "LISEZMOI.txt"
     !insertmacro ${DO} "LICENCE.txt"
     !include datas.nsh
+!macroend
+
+!macro EACH_FILE DO
+    !insertmacro ${DO} "onze-tables.exe"
+    !insertmacro EACH_SHARED_FILE ${DO}
 !macroend
 
 !macro END_WITH status
@@ -79,6 +83,10 @@ Page custom ShowChoice TakeChoice
 !macro FIND_HELD file
     Push "${file}"
     Call ${UN}FindHeld
+!macroend
+
+!macro COPY file
+    File "/oname=${file}" "${FOLDER64}\${file}"
 !macroend
 
 !macro DELETE file
@@ -269,15 +277,12 @@ Section
     ${Else}
         File "${FOLDER32}\onze-tables.exe"
     ${EndIf}
-    File "${FOLDER64}\LISEZMOI.txt" "${FOLDER64}\LICENCE.txt"
-    SetOutPath "$INSTDIR\datas"
-    File /x 18 "${FOLDER64}\datas\*"
+    !insertmacro EACH_SHARED_FILE COPY ; one by one: a folder is read in another order elsewhere
     ; The counters of an earlier version stay.
     SetOverwrite off
-    File "${FOLDER64}\datas\18"
+    !insertmacro COPY "datas\18"
     SetOverwrite on
 
-    SetOutPath "$INSTDIR"
     CreateShortcut "${PROGRAM_LINK}" "$INSTDIR\onze-tables.exe"
     CreateShortcut "${GUIDE_LINK}" "$INSTDIR\LISEZMOI.txt"
     WriteUninstaller "$INSTDIR\desinstaller.exe"
