@@ -105,15 +105,6 @@ class Faults(Installed):
     def test_counters_that_cannot_be_read_stop_the_start(self):
         self.check_start_stops("18", NOT_READ)
 
-    def test_counters_cut_short_count_on_from_zero(self):
-        worn = counters.worn()
-        for content, saved in ((b"", self.new), (worn[:61], worn[:60] + bytes(62))):
-            with self.subTest(content):
-                self.file.write_bytes(content)
-                with self.started() as program:
-                    self.quit(program)
-                self.assertEqual(self.file.read_bytes(), saved)
-
     def test_no_sound_is_ever_an_error(self):
         page_clicks = [at.FACTORING_MORE] * 10  # every click sound, and most probably every verdict's
         rounds = 24

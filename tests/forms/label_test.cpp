@@ -49,12 +49,6 @@ TEST_F(LabelTest, MarksAndProductsStayTogether) {
               Line("0,0", "vrai car") + Line("0,120", "56 : 8 = 7"));
 }
 
-TEST_F(LabelTest, AlignsInItsBox) {
-    const Rect box{1000, 1000, 1000, 500};
-    EXPECT_EQ(Painted(box, "ab", {.align = Align::kCenter, .middle = true}), Line("1450,1190", "ab"));
-    EXPECT_EQ(Painted(box, "ab", {.align = Align::kRight}), Line("1900,1000", "ab"));
-}
-
 TEST_F(LabelTest, TextThatDoesNotFitIsDrawnSmaller) {
     EXPECT_EQ(Painted({0, 0, 400, 1000}, "ABCDEFGHIJ"), Line("0,0", "ABCDEFGHIJ", 80));
     EXPECT_EQ(Painted({0, 0, 1000, 230}, "a\rb"), Line("0,0", "a", 95) + Line("0,114", "b", 95));
@@ -67,16 +61,6 @@ TEST_F(LabelTest, OverhangLeavesTheBoxButNotItsReach) {
     EXPECT_EQ(Painted(label), Line("800,-60", "ABCDEFGHIJKLMNOP"));
     EXPECT_EQ(label.HitBox(), (Rect{1000, 0, 400, 120}));
     EXPECT_EQ(label.PaintedBox(), (Rect{800, -60, 800, 180}));
-}
-
-TEST_F(LabelTest, AutoSizeFollowsTheTextAndKeepsAnEdge) {
-    Label left(form, {1000, 0, 50, 120}, "??", {.font = {100}, .auto_size = AutoSize::kKeepLeft});
-    Label right(form, {1000, 0, 50, 120}, "", {.font = {100}, .auto_size = AutoSize::kKeepRight});
-    EXPECT_EQ(left.box(), (Rect{1000, 0, 100, 120}));
-    left.SetCaption(" 12 =");
-    right.SetCaption(" 12 =");
-    EXPECT_EQ(left.box(), (Rect{1000, 0, 250, 120}));
-    EXPECT_EQ(right.box(), (Rect{800, 0, 250, 120}));
 }
 
 }  // namespace

@@ -206,18 +206,6 @@ TEST_F(StageTest, ALostPointerEndsThePress) {
     EXPECT_EQ(clicks, 0);
 }
 
-TEST_F(StageTest, TheNewPageIsToldWhereThePointerIs) {
-    Form other(stage);
-    Point moved_to_other{};
-    other.on_move = [&] { moved_to_other = kOnButton; };
-    form.on_move = [] { ADD_FAILURE() << "the page before was told"; };
-    button.on_click = [&] { other.Show(), form.Hide(); };
-    stage.Press(kOnButton);
-    EXPECT_EQ(moved_to_other, Point());
-    stage.Release(kOnButton);
-    EXPECT_EQ(moved_to_other, kOnButton);
-}
-
 // A page whose button opens another page, where another button lies in the same place.
 class DoubleClicks : public StageTest {
   protected:

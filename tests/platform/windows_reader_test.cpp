@@ -26,11 +26,7 @@ class Reader {
         AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible),
                                    reinterpret_cast<void**>(&page));
     }
-    ~Reader() {
-        if (page) page->Release();
-    }
-    Reader(const Reader&) = delete;
-    Reader& operator=(const Reader&) = delete;
+    ~Reader() { page->Release(); }
 
     std::string Name(LONG number) const { return Text(&IAccessible::get_accName, number); }
     std::string Value(LONG number) const { return Text(&IAccessible::get_accValue, number); }

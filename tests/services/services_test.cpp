@@ -2,7 +2,6 @@
 
 #include "services/display_mode.h"
 #include "services/picture_clip.h"
-#include "services/sounds.h"
 #include "support/headless_host.h"
 #include "support/run_time_error.h"
 
@@ -11,28 +10,6 @@ namespace onze {
 namespace {
 
 using Names = std::vector<std::string>;
-
-TEST(Sounds, EachCycleRunsRoundOnItsOwn) {
-    HeadlessHost host;
-    Sounds sounds(host);
-    for (int i = 0; i < 5; ++i) sounds.PlayVictorySound();
-    for (int i = 0; i < 6; ++i) sounds.PlayDefeatSound();
-    sounds.PlayVictorySound();
-    EXPECT_EQ(host.calls.at(0), "stop");
-    EXPECT_EQ(host.calls.at(1), "start 1.vic");
-    EXPECT_EQ(host.sounds, (Names{"1.vic", "2.vic", "3.vic", "4.vic", "1.vic", "1.def", "2.def", "3.def",
-                                  "4.def", "1.def", "2.def", "2.vic"}));
-}
-
-TEST(Sounds, ClicksAreUsedUpBehindAClosedGate) {
-    HeadlessHost host;
-    Sounds sounds(host);
-    for (int i = 0; i < 3; ++i) sounds.PlayClickSound();  // closed at start-up
-    EXPECT_TRUE(host.calls.empty());
-    sounds.ClickSoundEnabled = 1;
-    for (int i = 0; i < 8; ++i) sounds.PlayClickSound();
-    EXPECT_EQ(host.sounds, (Names{"4", "5", "6", "7", "8", "9", "10", "1"}));
-}
 
 TEST(DisplayMode, RoundsHalvesToEven) {
     HeadlessHost host;

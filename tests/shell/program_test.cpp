@@ -71,14 +71,6 @@ TEST(Program, MissingFilesStopTheStart) {
     }
 }
 
-TEST(Program, UnreadablePictureStopsTheStart) {
-    HeadlessHost host;
-    ScriptedRandom random;
-    Program program(host, random);
-    host.files["13"] = "no picture";
-    EXPECT_EQ(program.Take(event::Started()).failure, "Image introuvable ou illisible : « datas/13 ».");
-}
-
 TEST(Program, AFailedSaveIsToldAndTheDesktopPutBack) {
     Pupil pupil;
     const std::string before = pupil.host.files["18"];

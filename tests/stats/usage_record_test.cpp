@@ -55,12 +55,6 @@ TEST(UsageRecord, StandsInTheFileFieldByField) {
     EXPECT_EQ(ToBytes(UsageRecord()).size(), 120U);
 }
 
-TEST(UsageRecord, ElementElevenIsNeverStored) {
-    UsageRecord record;
-    record.counters.TableRight[11] = 5;
-    EXPECT_EQ(FromBytes(ToBytes(record)).counters.TableRight[11], 0);
-}
-
 TEST(UsageRecord, ShortFilesLeaveZeros) {
     const std::string whole = FullBytes();
     EXPECT_EQ(FromBytes({}), UsageRecord());
