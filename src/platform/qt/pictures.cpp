@@ -21,10 +21,9 @@ std::shared_ptr<const QtPicture> DecodeAny(std::span<const std::byte> bytes) {
 
 }  // namespace
 
-const QImage& QtPicture::LargestImage() const {
-    if (!largest_) largest_ = std::static_pointer_cast<const QtPicture>(ReadLarger());
-    if (!largest_) largest_ = std::make_shared<const QtPicture>(image_);
-    return largest_->image_;
+QImage QtPicture::ReadLargestImage() const {
+    const PicturePtr larger = ReadLarger();
+    return larger ? static_cast<const QtPicture&>(*larger).image_ : image_;
 }
 
 PicturePtr QtPictures::Decode(std::string_view, std::span<const std::byte> file) {

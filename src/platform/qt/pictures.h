@@ -15,16 +15,13 @@ class QtPicture final : public Picture {
 
     // As it was stored: a picture of few colours stays small.
     const QImage& image() const { return image_; }
-    // Of the larger picture where there is one, which is read once, or else the same.
-    const QImage& LargestImage() const;
-    // Reads it ahead; tells whether there was anything to read.
-    bool ReadAhead() const { return !largest_ && !LargestImage().isNull(); }
+    // Of the larger picture, read anew, where there is one, or else the same.
+    QImage ReadLargestImage() const;
 
     friend bool operator==(const QtPicture& a, const QtPicture& b) { return a.image_ == b.image_; }
 
   private:
     QImage image_;
-    mutable std::shared_ptr<const QtPicture> largest_;  // null until it is asked for
 };
 
 class QtPictures final : public Pictures {

@@ -1,10 +1,18 @@
 #include "platform/qt/scaled_pictures.h"
 
+#include <algorithm>
+
 namespace onze {
 
 namespace {
 
 constexpr qsizetype kBytesPerPixel = 4;
+constexpr qsizetype kPages = 6;
+constexpr qsizetype kMostBytes = 48 << 20;
+
+qsizetype BytesOf(QSize size) {
+    return kBytesPerPixel * size.width() * size.height();
+}
 
 // The two formats that are painted fastest.
 QImage::Format FastFormat(const QImage& image) {
@@ -19,15 +27,27 @@ QImage Scaled(const QImage& image, QSize size) {
 }  // namespace
 
 QImage ScaledPictures::AtSize(const QtPicture& picture, QSize size, QSize page) {
-    const qint64 key = picture.image().cacheKey();
-    const QImage* kept = kept_.object(key);
+    const QImage* const kept = kept_.object(picture.image().cacheKey());
     if (kept && kept->size() == size) return *kept;
-    const bool enlarged = size.width() > kWorthLarger * picture.WidthInPixels();
-    QImage scaled = Scaled(enlarged ? picture.LargestImage() : picture.image(), size);
-    // Half as much again for the small pictures on it.
-    kept_.setMaxCost(kBytesPerPixel * page.width() * page.height() * 3 / 2);
-    kept_.insert(key, new QImage(scaled), scaled.sizeInBytes());
+    QImage scaled = Scale(picture, size);
+    Keep(picture, scaled, page);
     return scaled;
+}
+
+QImage ScaledPictures::Scale(const QtPicture& picture, QSize size) {
+    const bool enlarged = size.width() > kWorthLarger * picture.WidthInPixels();
+    return Scaled(enlarged ? picture.ReadLargestImage() : picture.image(), size);
+}
+
+void ScaledPictures::Keep(const QtPicture& picture, const QImage& scaled, QSize page) {
+    // Half as much as a page for the small pictures on it.
+    const qsizetype half = BytesOf(page) / 2;
+    kept_.setMaxCost(std::max(3 * half, std::min((2 * kPages + 1) * half, kMostBytes)));
+    kept_.insert(picture.image().cacheKey(), new QImage(scaled), scaled.sizeInBytes());
+}
+
+bool ScaledPictures::HasRoomFor(QSize page) const {
+    return kept_.totalCost() + BytesOf(page) * 3 / 2 <= kept_.maxCost();
 }
 
 }  // namespace onze

@@ -8,11 +8,16 @@
 namespace onze {
 
 // The pictures of the page as it is shown, at the size at which it is shown, so that they are not scaled at
-// every paint. Those of the pages that were left make room: each page of a large screen takes megabytes.
+// every paint. All pages are kept where they take some tens of megabytes, else those shown last.
 class ScaledPictures {
   public:
     // The picture in the format that is painted fastest; there is room for a page of this size.
     QImage AtSize(const QtPicture& picture, QSize size, QSize page);
+    // Scales a picture ahead, on whatever thread, and keeps one that was.
+    static QImage Scale(const QtPicture& picture, QSize size);
+    void Keep(const QtPicture& picture, const QImage& scaled, QSize page);
+    // Whether one more page of this size drives no other out.
+    bool HasRoomFor(QSize page) const;
 
   private:
     QCache<qint64, QImage> kept_;  // by the picture's key; costs are bytes

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <utility>
 
 #include "platform/qt/accessible.h"
 #include "platform/qt/canvas.h"
@@ -24,8 +25,8 @@ constexpr QColor kPaper(255, 253, 246);
 constexpr QColor kRule(222, 237, 243);
 constexpr int kRuling = 24_px;
 
-bool ReadAhead(const PicturePtr& picture) {
-    return picture && static_cast<const QtPicture&>(*picture).ReadAhead();
+const QtPicture& AsQt(const PicturePtr& picture) {
+    return static_cast<const QtPicture&>(*picture);
 }
 
 event::PointerPressed Pressed(const QMouseEvent& event, Pixel at, double pixel_ratio) {
@@ -45,7 +46,7 @@ Window::Window(Program& program, QtHost& host) : program_(program), host_(host) 
     timer_.setSingleShot(true);
     timer_.setTimerType(Qt::PreciseTimer);
     QObject::connect(&timer_, &QTimer::timeout, this, [this] { Take(event::TimePassed()); });
-    QObject::connect(&next_, &QTimer::timeout, this, &Window::ReadNext);
+    QObject::connect(&next_, &QTimer::timeout, this, &Window::ScaleNext);
 }
 
 void Window::Present() {
@@ -62,7 +63,7 @@ void Window::Present() {
         showNormal();
     }
     TellSize();
-    ReadFirst();
+    ScaleFirst();
 }
 
 void Window::FollowScreen(const QRect& geometry) {
@@ -122,24 +123,41 @@ void Window::resizeEvent(QResizeEvent*) {
     TellSize();
 }
 
-void Window::ReadFirst() {
-    if (!to_read_.empty() || !program_.stage().front()) return;
-    const Screens& screens = program_.screens();
-    to_read_ = {screens.bilan.form.picture(),       screens.pythagore.form.picture(),
-                screens.leçon.form.picture(),       screens.exercices.form.picture(),
-                screens.divers.anim.picture,        screens.apprendre.form.picture(),
-                program_.stage().front()->picture()};
-    if (program_.view().enlargement() <= kWorthLarger) return;
-    first_ = std::jthread([picture = to_read_.back()] { ReadAhead(picture); });
+QSize Window::PageSize() const {
+    const PixelBox page = program_.view().page();
+    return {page.width, page.height};
 }
 
-void Window::ReadNext() {
-    bool has_read = false;
-    while (!has_read && !to_read_.empty()) {
-        has_read = ReadAhead(to_read_.back());
-        to_read_.pop_back();
+void Window::ScaleFirst() {
+    if (!to_scale_.empty() || !program_.stage().front()) return;
+    const Screens& screens = program_.screens();
+    to_scale_ = {screens.bilan.form.picture(),     screens.pythagore.form.picture(),
+                 screens.leçon.form.picture(),     screens.exercices.form.picture(),
+                 screens.apprendre.form.picture(), program_.stage().front()->picture()};
+    std::erase(to_scale_, nullptr);
+    const bool first = program_.stage().front()->picture() && program_.view().enlargement() > kWorthLarger;
+    if (!first || first_.joinable()) return;
+    first_ = std::jthread([this, picture = to_scale_.back(), size = PageSize()] {
+        first_page_ = ScaledPictures::Scale(AsQt(picture), size);
+    });
+}
+
+void Window::KeepFirst() {
+    if (!first_.joinable()) return;
+    first_.join();
+    pictures_.Keep(AsQt(to_scale_.back()), std::exchange(first_page_, {}), PageSize());
+    to_scale_.pop_back();
+}
+
+void Window::ScaleNext() {
+    if (to_scale_.empty() || !pictures_.HasRoomFor(PageSize())) {
+        program_.screens().divers.anim.picture->ReadLarger();
+        next_.stop();
+        to_scale_.clear();
+        return;
     }
-    if (to_read_.empty()) next_.stop();
+    pictures_.AtSize(AsQt(to_scale_.back()), PageSize(), PageSize());
+    to_scale_.pop_back();
 }
 
 // The paper of the pages goes on beside the page.
@@ -157,7 +175,7 @@ void Window::PaintGround(QPainter& painter, const QRegion& region) const {
 }
 
 void Window::paintEvent(QPaintEvent* event) {
-    if (first_.joinable()) first_.join();
+    KeepFirst();
     TellSize();  // which changes with the screen's scale, too
     const PixelBox part = ToPixels(event->region().boundingRect());
     const QRect shown(part.left, part.top, part.width, part.height);
@@ -169,7 +187,7 @@ void Window::paintEvent(QPaintEvent* event) {
     painter.setClipRect(shown & page_box);
     QtCanvas canvas(painter, program_.view(), host_.fonts, pictures_);
     Follow(program_.Paint(canvas, part));
-    if (!to_read_.empty() && program_.view().enlargement() > kWorthLarger) next_.start();
+    if (!to_scale_.empty() && program_.view().enlargement() > kWorthLarger) next_.start();
 }
 
 QAccessibleInterface* Window::accessibleRoot() const {

@@ -44,10 +44,12 @@ class Window final : public QRasterWindow {
     void TellSize();
     void FollowScreen(const QRect& geometry);
     void PaintGround(QPainter& painter, const QRegion& region) const;
-    // Enlarged pages need their larger pictures: the first one's is read while the window comes up, the
-    // others' one by one when there is nothing else to do.
-    void ReadFirst();
-    void ReadNext();
+    // Enlarged pages need their larger pictures: the first one is read and scaled while the window comes up,
+    // the others one by one when there is nothing else to do.
+    void ScaleFirst();
+    void KeepFirst();
+    void ScaleNext();
+    QSize PageSize() const;
 
     Pixel PixelAt(const QSinglePointEvent& event) const;
     QRect ToLogical(const PixelBox& pixels) const;
@@ -56,9 +58,10 @@ class Window final : public QRasterWindow {
     Program& program_;
     QtHost& host_;
     QTimer timer_;
-    std::jthread first_;
+    QImage first_page_;
+    std::jthread first_;  // makes it
     QTimer next_;
-    std::vector<PicturePtr> to_read_;  // the last one first
+    std::vector<PicturePtr> to_scale_;  // the last one first
     ScaledPictures pictures_;
     QSize told_size_;  // in pixels
     bool fills_screen_ = false;
