@@ -150,11 +150,15 @@ void Focus::Press(const KeyPress& press) {
     }
 }
 
-bool Focus::Take(Control& control) {
-    if (!Holds(StopsOfPage(), &control)) return false;
+void Focus::Perform(Control& control, Use use, std::string_view text) {
+    if (!Holds(StopsOfPage(), &control)) return;
     shown_ = true;
     MoveTo(&control);
-    return true;
+    UpDown* const arrows = control.arrows();
+    if (use == Use::kClick) Click(control);
+    if (use == Use::kRaise && arrows) arrows->Step(1);
+    if (use == Use::kLower && arrows) arrows->Step(-1);
+    if (use == Use::kEnter && arrows) arrows->EnterText(text);
 }
 
 void Focus::Click(Control& control) {

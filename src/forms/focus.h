@@ -18,9 +18,8 @@ class Focus {
     explicit Focus(Stage& stage) : stage_(stage) {}
 
     void Press(const KeyPress& press);
-    // A reader asks for the focus to stand on a control, or for a click on it; in vain where it is no stop.
-    bool Take(Control& control);
-    void Click(Control& control);
+    // Takes the focus to a control and uses it; in vain where it is no stop. A text is entered as a whole.
+    void Perform(Control& control, Use use, std::string_view text);
     // The pointer is used: on this control, or just so.
     void YieldToPointer(Control* control);
     // Looks for its place anew, after anything that may have changed the page.
@@ -44,6 +43,7 @@ class Focus {
     Control* Neighbour(Key direction) const;
     void MoveTo(Control* control);
     void MoveBy(int stops);
+    void Click(Control& control);
     void Escape();
     void Enter(const KeyPress& press, UpDown& arrows);
     void Type(const KeyPress& press, UpDown& arrows);

@@ -18,6 +18,9 @@ enum class Key {
     kCharacter,
 };
 
+// What can be done to a control that the focus can stand on, by those who have no keys for it.
+enum class Use { kFocus, kClick, kRaise, kLower, kEnter };
+
 struct KeyPress {
     Key key;
     char character = 0;     // the one typed, where it is plain ASCII

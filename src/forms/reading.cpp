@@ -28,6 +28,14 @@ std::string Spelled(std::string_view word) {
     return std::string(word.substr(0, equals)) + " égale " + std::string(word.substr(equals + 1));
 }
 
+ReadControl::Kind KindOf(const Control& control) {
+    using enum ReadControl::Kind;
+    if (control.arrows() && control.IsStop()) return kToEnter;
+    if (control.role() == Role::kHeading) return kHeading;
+    if (control.IsStop() || control.role() == Role::kButton) return kToPress;
+    return control.role() == Role::kZone ? kPicture : kText;
+}
+
 // What can be clicked tells what that does, too.
 std::string NameOf(const Control& control) {
     const std::string said = InWords(control.name());
@@ -102,9 +110,9 @@ std::vector<ReadControl> ReadPage(const Form& page) {
     for (Control* control : page.InReadingOrder()) {
         if (!control->visible() || control->Stop() != control) continue;
         if (control->arrows() && control->IsStop()) {
-            items.push_back({control, LineOf(*control, page), ValueOf(*control)});
+            items.push_back({control, KindOf(*control), LineOf(*control, page), ValueOf(*control)});
         } else if (std::string name = NameOf(*control); !name.empty()) {
-            items.push_back({control, std::move(name), ""});
+            items.push_back({control, KindOf(*control), std::move(name), ""});
         }
     }
     return items;

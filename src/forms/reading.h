@@ -10,7 +10,10 @@ namespace onze {
 
 // A control as a screen reader tells it.
 struct ReadControl {
-    Control* control;
+    enum class Kind { kText, kHeading, kPicture, kToPress, kToEnter };
+
+    Control* control = nullptr;
+    Kind kind = Kind::kText;
     std::string name;   // in French words
     std::string value;  // of an answer to enter, in words
 };

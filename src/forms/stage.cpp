@@ -87,9 +87,9 @@ void Stage::Press(const KeyPress& press) {
     focus_.Follow();
 }
 
-void Stage::Use(Control& control, bool click) {
+void Stage::Perform(Control& control, Use use, std::string_view text) {
     CancelPress();
-    if (focus_.Take(control) && click) focus_.Click(control);
+    focus_.Perform(control, use, text);
     focus_.Follow();
 }
 

@@ -43,8 +43,7 @@ class Stage {
     void CancelPress();
     void Wheel(Point point, int notches);
     void Press(const KeyPress& press);
-    // What a screen reader asks for, instead of its user's keys: the focus on a control, and there a click.
-    void Use(Control& control, bool click);
+    void Perform(Control& control, Use use, std::string_view text);
     // The point itself where a click would do something, else the nearest one of a target that is, for a
     // finger, no less than so wide and high; the point itself where there is none.
     Point NearestTarget(Point point, int least) const;

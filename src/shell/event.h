@@ -44,10 +44,11 @@ struct PointerLost {};
 struct KeyPressed {
     KeyPress press;
 };
-// A screen reader asks for the focus on a control of the page, or for a click on it.
+// A screen reader asks for something, instead of its user's keys.
 struct Used {
-    Control* control;
-    bool click;
+    Control* control;  // of the page
+    Use use;
+    std::string text{};  // that is entered
 };
 // By how much: 120 for each notch of a common wheel, above 0 when it turns away from the user.
 struct WheelTurned {

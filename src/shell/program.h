@@ -38,7 +38,7 @@ class Program {
     void On(const event::PointerReleased& released);
     void On(const event::PointerLost&) { stage_.CancelPress(); }
     void On(const event::KeyPressed& pressed) { stage_.Press(pressed.press); }
-    void On(const event::Used& used) { stage_.Use(*used.control, used.click); }
+    void On(const event::Used& used) { stage_.Perform(*used.control, used.use, used.text); }
     void On(const event::WheelTurned& turned);
 
     // The point of the page that was meant.

@@ -151,9 +151,16 @@ class Acceptance(Installed):
 
     def test_waiting_costs_next_to_nothing(self):
         program = self.start()
+        self.assertTrue(wait_until(lambda: self.is_at_rest(program)))  # it first makes the other pages ready
         used, begun = program.processor_time(), time.monotonic()
         time.sleep(2)
         self.assertLess(program.processor_time() - used, 0.05 * (time.monotonic() - begun))
+
+    def is_at_rest(self, program):
+        before = program.processor_time()
+        time.sleep(0.5)
+        return program.processor_time() - before < 0.01
+
 
 
 if __name__ == "__main__":

@@ -153,7 +153,10 @@ TEST_F(QtWindow, AReaderReadsThePageAndAnswers) {
     EXPECT_EQ(factor->valueInterface()->maximumValue().toInt(), 50);
     EXPECT_TRUE(factor->state().focused);
     EXPECT_TRUE(window.geometry().contains(factor->rect()));
-    factor->valueInterface()->setCurrentValue(50);
+    factor->valueInterface()->setCurrentValue(5);
+    factor->valueInterface()->setCurrentValue(50);  // is no continuation
+    find("Réponse : A fois 7")->valueInterface()->setCurrentValue('B');
+    EXPECT_TRUE(find("Réponse : B fois 7"));
     factor->actionInterface()->doAction(QAccessibleActionInterface::decreaseAction());
     EXPECT_EQ(factor->text(QAccessible::Value), "49");
     press(factor);

@@ -1,5 +1,6 @@
 #include "platform/qt/accessible.h"
 
+#include <QHash>
 #include <algorithm>
 
 #include "forms/reading.h"
@@ -10,11 +11,19 @@ namespace onze {
 
 namespace {
 
-QAccessible::Role RoleOf(const Control& control) {
-    if (control.arrows() && control.IsStop()) return QAccessible::SpinBox;
-    if (control.role() == Role::kHeading) return QAccessible::Heading;
-    if (control.IsStop() || control.role() == Role::kButton) return QAccessible::Button;
-    return control.role() == Role::kZone ? QAccessible::Graphic : QAccessible::StaticText;
+QAccessible::Role RoleOf(ReadControl::Kind kind) {
+    switch (kind) {
+        case ReadControl::Kind::kHeading:
+            return QAccessible::Heading;
+        case ReadControl::Kind::kPicture:
+            return QAccessible::Graphic;
+        case ReadControl::Kind::kToPress:
+            return QAccessible::Button;
+        case ReadControl::Kind::kToEnter:
+            return QAccessible::SpinBox;
+        default:
+            return QAccessible::StaticText;
+    }
 }
 
 // One control of the page. It may have left the page while a reader still holds it.
@@ -34,15 +43,12 @@ class AccessibleControl final : public QAccessibleInterface,
     QAccessibleInterface* childAt(int, int) const override { return nullptr; }
     void setText(QAccessible::Text, const QString&) override {}
     QRect rect() const override { return page_.Place(control_); }
-    QAccessible::Role role() const override { return RoleOf(control_); }
+    QAccessible::Role role() const override { return RoleOf(Read().kind); }
 
     QString text(QAccessible::Text kind) const override {
-        for (const ReadControl& read : ReadPage(*page_.program().stage().front())) {
-            if (read.control != &control_) continue;
-            if (kind == QAccessible::Name) return QString::fromStdString(read.name);
-            if (kind == QAccessible::Value) return QString::fromStdString(read.value);
-        }
-        return {};
+        const ReadControl read = Read();
+        if (kind == QAccessible::Name) return QString::fromStdString(read.name);
+        return kind == QAccessible::Value ? QString::fromStdString(read.value) : QString();
     }
 
     QAccessible::State state() const override {
@@ -69,11 +75,11 @@ class AccessibleControl final : public QAccessibleInterface,
         return names;
     }
     void doAction(const QString& name) override {
-        const bool steps = name == increaseAction() || name == decreaseAction();
-        if (!actionNames().contains(name)) return;
-        page_.page_window().Take(event::Used{&control_, name == pressAction()});
-        const Key key = name == increaseAction() ? Key::kUp : Key::kDown;
-        if (steps) page_.page_window().Take(event::KeyPressed{{.key = key}});
+        static const QHash<QString, Use> kUses{{pressAction(), Use::kClick},
+                                               {setFocusAction(), Use::kFocus},
+                                               {increaseAction(), Use::kRaise},
+                                               {decreaseAction(), Use::kLower}};
+        if (kUses.contains(name)) page_.page_window().Take(event::Used{&control_, kUses[name]});
     }
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
@@ -82,14 +88,18 @@ class AccessibleControl final : public QAccessibleInterface,
     QVariant maximumValue() const override { return arrows() ? arrows()->maximum() : 0; }
     QVariant minimumStepSize() const override { return arrows() ? arrows()->increment() : 0; }
     void setCurrentValue(const QVariant& value) override {
-        if (!arrows() || !control_.IsStop()) return;
-        page_.page_window().Take(event::Used{&control_, false});
-        for (const char digit : value.toString().toStdString())
-            page_.page_window().Take(event::KeyPressed{{.key = Key::kCharacter, .character = digit}});
+        if (!arrows()) return;
+        page_.page_window().Take(event::Used{&control_, Use::kEnter, arrows()->text_of(value.toInt())});
     }
 
   private:
     const UpDown* arrows() const { return control_.arrows(); }
+    // What is read of it now; empty once it has left the page.
+    ReadControl Read() const {
+        const auto page = ReadPage(*page_.program().stage().front());
+        const auto found = std::ranges::find(page, &control_, &ReadControl::control);
+        return found == page.end() ? ReadControl{} : *found;
+    }
 
     AccessiblePage& page_;
     Control& control_;

@@ -1,26 +1,16 @@
 #pragma once
 
-#include <chrono>
-
-#include "forms/clock.h"
 #include "platform/data_files.h"
 #include "platform/qt/calendar.h"
 #include "platform/qt/desktop.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/pictures.h"
 #include "platform/qt/sound_player.h"
+#include "platform/steady_clock.h"
 #include "shell/host.h"
 #include "stats/usage_record.h"
 
 namespace onze {
-
-class SteadyClock final : public Clock {
-  public:
-    std::int64_t TickCount() const override {
-        using namespace std::chrono;
-        return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
-    }
-};
 
 // All that a Linux desktop offers to the program. Needs a QGuiApplication.
 struct QtHost {

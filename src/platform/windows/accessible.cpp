@@ -34,10 +34,17 @@ bool IsPage(const VARIANT& child) {
     return child.vt == VT_I4 && child.lVal == CHILDID_SELF;
 }
 
-LONG RoleOf(const Control& control) {
-    if (control.arrows() && control.IsStop()) return ROLE_SYSTEM_SPINBUTTON;
-    if (control.IsStop() || control.role() == Role::kButton) return ROLE_SYSTEM_PUSHBUTTON;
-    return control.role() == Role::kZone ? ROLE_SYSTEM_GRAPHIC : ROLE_SYSTEM_STATICTEXT;
+LONG RoleOf(ReadControl::Kind kind) {
+    switch (kind) {
+        case ReadControl::Kind::kPicture:
+            return ROLE_SYSTEM_GRAPHIC;
+        case ReadControl::Kind::kToPress:
+            return ROLE_SYSTEM_PUSHBUTTON;
+        case ReadControl::Kind::kToEnter:
+            return ROLE_SYSTEM_SPINBUTTON;
+        default:
+            return ROLE_SYSTEM_STATICTEXT;
+    }
 }
 
 }  // namespace
@@ -71,10 +78,10 @@ std::vector<ReadControl> AccessiblePage::Read() const {
     return page ? ReadPage(*page) : std::vector<ReadControl>();
 }
 
-Control* AccessiblePage::At(const VARIANT& child) const {
+ReadControl AccessiblePage::At(const VARIANT& child) const {
     const auto read = Read();
     const bool known = child.vt == VT_I4 && child.lVal > 0 && child.lVal <= std::ssize(read);
-    return known ? read[static_cast<std::size_t>(child.lVal) - 1].control : nullptr;
+    return known ? read[static_cast<std::size_t>(child.lVal) - 1] : ReadControl{};
 }
 
 LONG AccessiblePage::NumberOf(const Control* control) const {
@@ -128,23 +135,22 @@ STDMETHODIMP AccessiblePage::get_accChild(VARIANT, IDispatch** object) {
 
 STDMETHODIMP AccessiblePage::get_accName(VARIANT child, BSTR* name) {
     if (IsPage(child)) return Write("Onze Tables", name);
-    const Control* const control = At(child);
-    return control ? Write(Read()[static_cast<std::size_t>(child.lVal) - 1].name, name) : E_INVALIDARG;
+    const ReadControl read = At(child);
+    return read.control ? Write(read.name, name) : E_INVALIDARG;
 }
 
 STDMETHODIMP AccessiblePage::get_accValue(VARIANT child, BSTR* value) {
-    const Control* const control = At(child);
-    return control ? Write(Read()[static_cast<std::size_t>(child.lVal) - 1].value, value) : S_FALSE;
+    return Write(At(child).value, value);
 }
 
 STDMETHODIMP AccessiblePage::get_accRole(VARIANT child, VARIANT* role) {
     if (IsPage(child)) return Write(ROLE_SYSTEM_CLIENT, role);
-    const Control* const control = At(child);
-    return control ? Write(RoleOf(*control), role) : E_INVALIDARG;
+    const ReadControl read = At(child);
+    return read.control ? Write(RoleOf(read.kind), role) : E_INVALIDARG;
 }
 
 STDMETHODIMP AccessiblePage::get_accState(VARIANT child, VARIANT* state) {
-    const Control* const control = At(child);
+    const Control* const control = At(child).control;
     if (!control) return IsPage(child) ? Write(STATE_SYSTEM_FOCUSABLE, state) : E_INVALIDARG;
     LONG flags = 0;
     if (control->IsStop()) flags |= STATE_SYSTEM_FOCUSABLE;
@@ -159,19 +165,19 @@ STDMETHODIMP AccessiblePage::get_accFocus(VARIANT* child) {
 }
 
 STDMETHODIMP AccessiblePage::get_accDefaultAction(VARIANT child, BSTR* action) {
-    const Control* const control = At(child);
+    const Control* const control = At(child).control;
     return Write(control && control->IsStop() ? "Cliquer" : "", action);
 }
 
 STDMETHODIMP AccessiblePage::accSelect(long flags, VARIANT child) {
-    Control* const control = At(child);
+    Control* const control = At(child).control;
     if (!control || !(flags & SELFLAG_TAKEFOCUS)) return E_INVALIDARG;
-    window_->Take(event::Used{control, false});
+    window_->Take(event::Used{control, Use::kFocus});
     return S_OK;
 }
 
 STDMETHODIMP AccessiblePage::accLocation(long* left, long* top, long* width, long* height, VARIANT child) {
-    const Control* const control = At(child);
+    const Control* const control = At(child).control;
     if (!window_ || (!control && !IsPage(child))) return E_INVALIDARG;
     RECT place{};
     if (control) {
@@ -208,18 +214,16 @@ STDMETHODIMP AccessiblePage::accHitTest(long left, long top, VARIANT* child) {
 }
 
 STDMETHODIMP AccessiblePage::accDoDefaultAction(VARIANT child) {
-    Control* const control = At(child);
+    Control* const control = At(child).control;
     if (!control || !control->IsStop()) return E_INVALIDARG;
-    window_->Take(event::Used{control, true});
+    window_->Take(event::Used{control, Use::kClick});
     return S_OK;
 }
 
 STDMETHODIMP AccessiblePage::put_accValue(VARIANT child, BSTR value) {
-    Control* const control = At(child);
+    Control* const control = At(child).control;
     if (!control || !control->IsStop() || !control->arrows() || !value) return E_INVALIDARG;
-    window_->Take(event::Used{control, false});
-    for (const char character : ToUtf8(value))
-        window_->Take(event::KeyPressed{{.key = Key::kCharacter, .character = character}});
+    window_->Take(event::Used{control, Use::kEnter, ToUtf8(value)});
     return S_OK;
 }
 

@@ -59,8 +59,8 @@ class AccessiblePage final : public IAccessible {
 
   private:
     std::vector<ReadControl> Read() const;
-    // What a number stands for now; null for the page itself, and where there is none.
-    Control* At(const VARIANT& child) const;
+    // What a number stands for now; nothing for the page itself, and where there is none.
+    ReadControl At(const VARIANT& child) const;
     LONG NumberOf(const Control* control) const;
     RECT Place(const Control& control) const;
     void Notify(DWORD event, const Control* control) const;

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <chrono>
-
-#include "forms/clock.h"
 #include "platform/data_files.h"
+#include "platform/steady_clock.h"
 #include "platform/windows/calendar.h"
 #include "platform/windows/desktop.h"
 #include "platform/windows/fonts.h"
@@ -14,14 +12,6 @@
 #include "stats/usage_record.h"
 
 namespace onze {
-
-class SteadyClock final : public Clock {
-  public:
-    std::int64_t TickCount() const override {
-        using namespace std::chrono;
-        return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
-    }
-};
 
 // All that Windows, 7 and later, offers to the program.
 struct WindowsHost {
