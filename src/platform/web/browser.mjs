@@ -1,0 +1,163 @@
+// Starts the program in a page, and does for it what browser.h lists. Beside that, the page offers:
+//   #page         the canvas
+//   #message      a sentence of trouble, hidden while there is none
+//   #adieu        the farewell, with the button #recommencer
+//   localStorage  "onze-tables/18": the counters file in base64
+//   window.onzeTables.view()  where the page lies; see canvas.mjs
+
+import { endProgram, makeProgram, program, textAt, write, writeText } from "./program.mjs";
+import { bytesOf, fileNow, findPicture, load, loadLarger, pictureOf, whenPictureComes } from "./files.mjs";
+import { canvas, drawing, followSize, page, placePage, repaint, repaintAll, view } from "./canvas.mjs";
+import { listenForTouch, sounds } from "./sounds.mjs";
+import { followReader, reading } from "./reading.mjs";
+import { listen } from "./input.mjs";
+import { canStore, counters, holdCounters, isFirst, isUnstored, keepBytes, readStored } from "./counters.mjs";
+import { hideFarewell, sayFarewell, showMargin, tell } from "./margin.mjs";
+
+const kAtStart = ["15", "18", "anim", "11", "12", "13", "14", "16"];
+const kLarger = ["15.3x", "11.3x", "13.3x", "16.3x", "14.3x", "12.3x", "anim.3x"];
+const kFirstSounds = ["5", "3", "1", "2", "4", "6", "7", "8", "9", "10"];
+
+const kTooOld = "Ce navigateur est trop ancien pour Onze Tables. Mettez-le à jour, ou prenez-en un autre.";
+const kNotLoaded = "Onze Tables n'a pas pu être chargé. Vérifiez la connexion, puis rechargez la page.";
+const kNothingKept =
+    "Ce navigateur ne garde rien : ce qui est compté ici sera perdu quand la page se fermera. " +
+    "« Enregistrer mes compteurs » en fait un fichier.";
+const kSecondTab =
+    "Onze Tables est déjà ouvert dans un autre onglet : ce qui est compté dans celui-ci ne sera pas gardé.";
+const kNotStored = "Les compteurs n'ont pas pu être gardés. « Enregistrer mes compteurs » en fait un fichier.";
+
+const locale = navigator.languages?.find((language) => /^fr\b/i.test(language)) ?? "fr-FR";
+// Without the blanks that fonts lack.
+const inFrench = (style) => new Intl.DateTimeFormat(locale, style).format(new Date()).replace(/\s/g, " ");
+
+const kIsSite = !document.getElementById("onze-tables.wasm");  // and not one file
+
+let timer = 0;
+let dueAt = -1;  // the page's time at which the program wants to be called
+
+function wakeIn(milliseconds) {
+    clearTimeout(timer);
+    dueAt = milliseconds < 0 ? -1 : performance.now() + milliseconds;
+    if (dueAt >= 0 && !document.hidden) timer = setTimeout(() => program?.time(), milliseconds);
+}
+
+function end() {
+    wakeIn(-1);
+    endProgram();
+    const stored = !isUnstored();
+    tell(stored ? null : kNotStored);
+    sayFarewell("À bientôt !", stored ? "Tes résultats sont gardés." : "");
+}
+
+function fail(text) {
+    wakeIn(-1);
+    endProgram();
+    tell(text);
+    sayFarewell("Onze Tables s'est arrêté.", "");
+}
+
+const browser = {
+    fileSize: (at, size) => fileNow(textAt(at, size))?.length ?? -1,
+    readFile: (at, size, into) => write(into, fileNow(textAt(at, size))),
+    ...counters,
+    findPicture: (at, size) => findPicture(textAt(at, size)),
+    pictureWidth: (number) => pictureOf(number).width,
+    pictureHeight: (number) => pictureOf(number).height,
+    ...drawing,
+    startSound: (at, size) => sounds.start(textAt(at, size)),
+    stopSound: sounds.stop,
+    longDate: (at, room) => writeText(at, room, inFrench({ dateStyle: "full" })),
+    timeOfDay: (at, room) => writeText(at, room, inFrench({ timeStyle: "medium" })),
+    screenWidth: () => Math.round(screen.width * devicePixelRatio),
+    screenHeight: () => Math.round(screen.height * devicePixelRatio),
+    placePage,
+    repaint,
+    wakeIn,
+    showHand: (hand) => void (canvas.style.cursor = hand ? "pointer" : ""),
+    end,
+    fail: (at, size) => fail(textAt(at, size)),
+    ...reading,
+};
+
+let compiled = null;
+
+async function run() {
+    readStored();
+    await makeProgram(compiled, browser, fail);
+    program.resize(canvas.width, canvas.height);
+    program.start();
+}
+
+async function restart() {
+    hideFarewell();
+    tell(null);
+    await run();
+    repaintAll();
+}
+
+async function takeUp(bytes) {
+    if (program?.hasCounted() && !confirm("Ce qui a été compté depuis le début de la visite sera perdu. Continuer ?"))
+        return;
+    endProgram();
+    keepBytes(bytes);
+    await restart();
+    if (isUnstored()) tell(kNotStored);
+}
+
+async function loadFonts() {
+    const faces = [["regular", "normal"], ["bold", "bold"]].map(async ([name, weight]) => {
+        const bytes = await bytesOf(`fonts/${name}.woff2`);
+        if (bytes) document.fonts.add(await new FontFace("Onze Tables", bytes, { weight }).load());
+    });
+    await Promise.all(faces);
+}
+
+async function loadProgram() {
+    const bytes = await bytesOf("onze-tables.wasm");
+    if (bytes) compiled = await WebAssembly.compile(bytes);
+}
+
+// What is not needed for the first page: sounds, and larger pictures where pages are shown larger.
+async function loadTheRest() {
+    if (kIsSite) navigator.serviceWorker?.register("service_worker.js").catch(() => {});
+    for (const name of kFirstSounds) await load(name);
+    const { width, height } = page;
+    if (width > 640 * 1.2) await loadLarger(kLarger, width, height);
+}
+
+function tellOfStorage() {
+    if (!canStore()) return tell(kNothingKept);
+    navigator.locks?.query().then(({ held }) => {
+        if (!isFirst() && held.some((lock) => lock.name === "onze-tables")) tell(kSecondTab);
+    });
+}
+
+function followVisibility() {
+    document.addEventListener("visibilitychange", () => {
+        if (dueAt >= 0) wakeIn(Math.max(0, dueAt - performance.now()));
+    });
+}
+
+async function main() {
+    holdCounters(() => tell(null));
+    followSize();
+    whenPictureComes(repaintAll);
+    try {
+        await Promise.all([loadProgram(), loadFonts(), ...kAtStart.map(load)]);
+    } catch {
+        return tell(kTooOld);
+    }
+    if (!compiled) return tell(kNotLoaded);
+    listen();
+    listenForTouch();
+    followReader();
+    followVisibility();
+    await run();
+    showMargin(takeUp, restart);
+    tellOfStorage();
+    requestAnimationFrame(() => setTimeout(loadTheRest));
+}
+
+window.onzeTables = { view };
+main();

@@ -1,0 +1,12 @@
+// For browsers that cannot even read the program's script.
+(function () {
+    function tell() {
+        var message = document.getElementById("message");
+        message.textContent = "Ce navigateur est trop ancien pour Onze Tables. Mettez-le à jour, ou prenez-en un autre.";
+        message.hidden = false;
+    }
+    window.onerror = function () {
+        if (!window.onzeTables) tell();
+    };
+    if (!window.WebAssembly || !("noModule" in document.createElement("script"))) tell();
+})();
