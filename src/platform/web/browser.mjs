@@ -12,7 +12,7 @@ import { listenForTouch, sounds } from "./sounds.mjs";
 import { followReader, reading } from "./reading.mjs";
 import { listen } from "./input.mjs";
 import { canStore, counters, holdCounters, isFirst, isUnstored, keepBytes, readStored } from "./counters.mjs";
-import { hideFarewell, sayFarewell, showMargin, tell } from "./margin.mjs";
+import { hideFarewell, sayFarewell, showMargin, tell, untell } from "./margin.mjs";
 
 const kAtStart = ["15", "18", "anim", "11", "12", "13", "14", "16"];
 const kLarger = ["15.3x", "11.3x", "13.3x", "16.3x", "14.3x", "12.3x", "anim.3x"];
@@ -33,6 +33,7 @@ const inFrench = (style) => new Intl.DateTimeFormat(locale, style).format(new Da
 
 const kIsSite = !document.getElementById("onze-tables.wasm");  // and not one file
 
+let failed = false;
 let timer = 0;
 let dueAt = -1;  // the page's time at which the program wants to be called
 
@@ -45,12 +46,13 @@ function wakeIn(milliseconds) {
 function end() {
     wakeIn(-1);
     endProgram();
-    const stored = !isUnstored();
-    tell(stored ? null : kNotStored);
-    sayFarewell("À bientôt !", stored ? "Tes résultats sont gardés." : "");
+    untell();
+    if (isUnstored()) tell(kNotStored);
+    sayFarewell("À bientôt !", isUnstored() ? "" : "Vos compteurs sont gardés.");
 }
 
 function fail(text) {
+    failed = true;
     wakeIn(-1);
     endProgram();
     tell(text);
@@ -90,8 +92,9 @@ async function run() {
 }
 
 async function restart() {
+    if (failed) return location.reload();
     hideFarewell();
-    tell(null);
+    untell();
     await run();
     repaintAll();
 }
@@ -127,6 +130,7 @@ async function loadTheRest() {
 }
 
 function tellOfStorage() {
+    if (failed) return;
     if (!canStore()) return tell(kNothingKept);
     navigator.locks?.query().then(({ held }) => {
         if (!isFirst() && held.some((lock) => lock.name === "onze-tables")) tell(kSecondTab);
@@ -140,7 +144,7 @@ function followVisibility() {
 }
 
 async function main() {
-    holdCounters(() => tell(null));
+    holdCounters(() => untell(kSecondTab));
     followSize();
     whenPictureComes(repaintAll);
     try {

@@ -5,6 +5,7 @@ import { bitmapOf, pictureOf } from "./files.mjs";
 
 export const canvas = document.getElementById("page");
 const context = canvas.getContext("2d");
+const kRestMs = 200;        // after which two fingers have come to rest
 const kMostPixels = 16e6;  // which all devices have room for
 const kFace = '"Onze Tables", "Liberation Sans", Arimo, Arial, sans-serif';
 
@@ -138,26 +139,31 @@ function resizeTo(width, height) {
     paintNow();
 }
 
-function fit() {
+// The browser's own count of pixels is exact, where it tells it and means the screen's.
+function fit(entries) {
     const box = canvas.getBoundingClientRect();
-    resizeTo(Math.round(box.width * devicePixelRatio), Math.round(box.height * devicePixelRatio));
+    const told = entries?.[0].devicePixelContentBoxSize?.[0];
+    const count = (length, exact) => {
+        const pixels = length * devicePixelRatio;
+        return Math.abs(exact - pixels) < 1 ? exact : Math.round(pixels);
+    };
+    resizeTo(count(box.width, told?.inlineSize), count(box.height, told?.blockSize));
 }
 
 let fitting = 0;
 
 // Follows the window, the screen that it is on, and two fingers.
 export function followSize() {
-    const observer = new ResizeObserver(([{ devicePixelContentBoxSize: size }]) =>
-        size ? resizeTo(size[0].inlineSize, size[0].blockSize) : fit());
+    const observer = new ResizeObserver(fit);
     try {
         observer.observe(canvas, { box: "device-pixel-content-box" });
     } catch {
         observer.observe(canvas);
-        window.addEventListener("resize", fit);
+        window.addEventListener("resize", () => fit());
     }
     window.visualViewport?.addEventListener("resize", () => {
         clearTimeout(fitting);
-        fitting = setTimeout(fit, 200);
+        fitting = setTimeout(fit, kRestMs);
     });
     fit();
 }

@@ -3,7 +3,7 @@
     function tell() {
         var message = document.getElementById("message");
         message.textContent = "Ce navigateur est trop ancien pour Onze Tables. Mettez-le à jour, ou prenez-en un autre.";
-        message.hidden = false;
+        message.hidden = document.getElementById("avis").hidden = false;
     }
     window.onerror = function () {
         if (!window.onzeTables) tell();

@@ -6,13 +6,16 @@ import { isUnstored, readCounters, saveAsFile } from "./counters.mjs";
 const element = (id) => document.getElementById(id);
 const message = element("message");
 
-// A sentence of trouble; none hides the last one.
+// A sentence of trouble.
 export function tell(text) {
-    message.textContent = text ?? "";
-    message.hidden = !text;
+    message.textContent = text;
+    element("avis").hidden = message.hidden = false;
 }
 
-export const isSilent = () => message.hidden;
+// Takes a sentence away, where it is this one that stands there, or whichever.
+export function untell(text = message.textContent) {
+    if (message.textContent === text) element("avis").hidden = message.hidden = true;
+}
 
 const root = document.documentElement;
 const enter = root.requestFullscreen ?? root.webkitRequestFullscreen;
@@ -55,6 +58,7 @@ export function showMargin(takeUp, restart) {
     offerFullScreen();
     offerCounters(takeUp);
     element("recommencer").addEventListener("click", restart);
+    element("fermer").addEventListener("click", () => untell());
     element("marge").hidden = false;
     window.addEventListener("beforeunload", (event) => {
         if (!isUnstored() && !program?.hasCounted()) return;
