@@ -15,6 +15,7 @@ enum class Key {
     kEnd,
     kClick,  // Enter or Space
     kEscape,
+    kPrint,  // Ctrl + P
     kCharacter,
 };
 

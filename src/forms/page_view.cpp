@@ -16,14 +16,14 @@ std::int64_t FloorOfQuotient(std::int64_t dividend, std::int64_t divisor) {
 
 }  // namespace
 
-PageView::PageView(int window_width, int window_height) {
-    const bool tall = std::int64_t{window_width} * kPageHeight < std::int64_t{window_height} * kPageWidth;
-    pixels_ = std::max(1, tall ? window_width : window_height);
+PageView::PageView(const PixelBox& room) {
+    const bool tall = std::int64_t{room.width} * kPageHeight < std::int64_t{room.height} * kPageWidth;
+    pixels_ = std::max(1, tall ? room.width : room.height);
     twips_ = tall ? kPageWidth : kPageHeight;
     page_.width = EdgeToPixels(kPageWidth);
     page_.height = EdgeToPixels(kPageHeight);
-    page_.left = (window_width - page_.width) / 2;
-    page_.top = (window_height - page_.height) / 2;
+    page_.left = room.left + (room.width - page_.width) / 2;
+    page_.top = room.top + (room.height - page_.height) / 2;
 }
 
 // A pixel belongs to what its middle lies in.

@@ -29,7 +29,9 @@ struct PixelBox {
 class PageView {
   public:
     // Sizes in pixels of the window; one that is nothing counts as one pixel.
-    PageView(int window_width, int window_height);
+    PageView(int window_width, int window_height) : PageView({0, 0, window_width, window_height}) {}
+    // In a part of the window, or of a sheet of paper.
+    explicit PageView(const PixelBox& room);
 
     // Pixels of one twip, and of one pixel of the page.
     double scale() const { return static_cast<double>(pixels_) / twips_; }

@@ -75,6 +75,7 @@ struct Reaction {
     PixelBox repaint;                     // empty for nothing
     bool hand = false;                    // whether the pointer shows that a click would do something
     std::optional<std::int64_t> wake_at;  // the tick at which TimePassed is due
+    bool print = false;                   // the page shown: PaintOnPaper
     std::string say;                      // to a screen reader: the messages that changed, a line each
 };
 

@@ -1,5 +1,6 @@
 #include "shell/program.h"
 
+#include "shell/paper.h"
 #include "support/run_time_error.h"
 
 namespace onze {
@@ -44,6 +45,14 @@ Reaction Program::Paint(Canvas& canvas, const PixelBox& part) {
     return React([&] { stage_.Paint(canvas, view_.Around(part)); });
 }
 
+Reaction Program::PaintOnPaper(Canvas& canvas) {
+    return React([&] {
+        const Form& page = *stage_.front();
+        PaintHead(canvas, host_, &page == &screens_->bilan.form);
+        page.Paint(canvas, {0, 0, kPageWidth, kPageHeight});
+    });
+}
+
 template <class Step>
 Reaction Program::React(Step step) {
     if (state_ == Reaction::State::kRuns) {
@@ -63,6 +72,7 @@ Reaction Program::React(Step step) {
     if (!damage.empty()) reaction.repaint = view_.Around(damage);
     reaction.hand = stage_.ReactsToClickAt(pointer_);
     reaction.wake_at = stage_.NextDue();
+    reaction.print = std::exchange(print_, false);
     reaction.say = stage_.TakeMessages();
     return reaction;
 }
@@ -104,6 +114,12 @@ void Program::On(const event::WindowResized& resized) {
 Point Program::Aim(Pixel at) const {
     const Point point = view_.ToPage(at);
     return finger_ ? stage_.NearestTarget(point, view_.LengthToPage(kFingerPixels)) : point;
+}
+
+void Program::On(const event::KeyPressed& pressed) {
+    if (pressed.press.key != Key::kPrint) return stage_.Press(pressed.press);
+    stage_.CancelPress();
+    print_ = !pressed.press.repeated;
 }
 
 void Program::On(const event::PointerMoved& moved) {

@@ -22,6 +22,9 @@ class Program {
     // Paints a part of the window, whose page lies as view() tells.
     Reaction Paint(Canvas& canvas, const PixelBox& part);
     const PageView& view() const { return view_; }
+    // Paints the page shown, without the ring of the keys, and its head, on a canvas that has the view of
+    // ViewOnPaper.
+    Reaction PaintOnPaper(Canvas& canvas);
 
     // For whoever looks inside. The screens exist once the start succeeded.
     Stage& stage() { return stage_; }
@@ -37,7 +40,7 @@ class Program {
     void On(const event::PointerPressed& pressed);
     void On(const event::PointerReleased& released);
     void On(const event::PointerLost&) { stage_.CancelPress(); }
-    void On(const event::KeyPressed& pressed) { stage_.Press(pressed.press); }
+    void On(const event::KeyPressed& pressed);
     void On(const event::Used& used) { stage_.Perform(*used.control, used.use, used.text); }
     void On(const event::WheelTurned& turned);
 
@@ -61,6 +64,7 @@ class Program {
     std::optional<Screens> screens_;
     PageView view_;
     Point pointer_;
+    bool print_ = false;
     bool finger_ = false;   // pressed last
     int wheel_turned_ = 0;  // since the last whole notch
     Reaction::State state_ = Reaction::State::kRuns;

@@ -77,7 +77,9 @@ def shared(one, other):
 
 
 SMALL = (160, 120)
-ALIKE = 16  # mean difference of a colour; texts and controls cover a part of every background
+# Mean difference of a colour: what texts and controls, in whatever fonts, make of a background stays well below it,
+# and another background well above.
+ALIKE = 24
 
 
 @functools.cache

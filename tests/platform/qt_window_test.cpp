@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTemporaryDir>
 #include <QWheelEvent>
 #include <QtTest/QTest>
 
@@ -86,6 +88,49 @@ TEST_F(QtWindow, TakesAFingerForThePointer) {
     QTest::touchEvent(&window, finger.get()).press(0, On(kOnButton), &window);
     QTest::touchEvent(&window, finger.get()).release(0, On(kOnButton), &window);
     EXPECT_EQ(clicks, 1);
+    // A second finger counts for nothing, and a swipe is no click.
+    QTest::touchEvent(&window, finger.get()).press(0, On(kOnButton), &window);
+    QTest::touchEvent(&window, finger.get()).stationary(0).press(1, On(kOnUpperHalf), &window);
+    QTest::touchEvent(&window, finger.get()).stationary(0).release(1, On(kOnUpperHalf), &window);
+    QTest::touchEvent(&window, finger.get()).release(0, On(kOnButton), &window);
+    EXPECT_EQ(clicks, 2);
+    EXPECT_EQ(arrows.value(), 0);
+    QTest::touchEvent(&window, finger.get()).press(0, On(kOnButton), &window);
+    QTest::touchEvent(&window, finger.get()).move(0, On({125_px, 300_px}), &window);
+    QTest::touchEvent(&window, finger.get()).release(0, On({125_px, 300_px}), &window);
+    EXPECT_EQ(clicks, 2);
+}
+
+// Nothing here opens the sheet, so that its place is told.
+TEST_F(QtWindow, PrintsIntoANewFile) {
+    const QTemporaryDir home;
+    const QByteArray former = qgetenv("HOME");
+    qputenv("HOME", home.path().toUtf8());
+    const auto print = [this] {
+        QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier);
+        Click(kOnButton);
+        QWindow* const report = QGuiApplication::modalWindow();
+        if (report) QTest::keyClick(report, Qt::Key_Return);
+        return report != nullptr;
+    };
+    EXPECT_TRUE(print());
+    EXPECT_TRUE(print());
+    QDir folder(home.path() + "/Documents");
+    EXPECT_EQ(folder.entryList(QDir::Files), (QStringList{"Onze Tables (2).pdf", "Onze Tables.pdf"}));
+    QFile file(folder.filePath("Onze Tables.pdf"));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray sheet = file.readAll();
+    EXPECT_TRUE(sheet.startsWith("%PDF"));
+    EXPECT_TRUE(sheet.contains("/ToUnicode")) << "its texts are texts";
+
+    folder.removeRecursively();
+    QFile in_the_way(folder.path());
+    EXPECT_TRUE(in_the_way.open(QIODevice::WriteOnly));
+    EXPECT_TRUE(print());
+    EXPECT_EQ(clicks, 0);
+    Click(kOnButton);
+    EXPECT_EQ(clicks, 1) << "the run goes on";
+    qputenv("HOME", former);
 }
 
 TEST_F(QtWindow, StepsTheWheelByWholeNotches) {

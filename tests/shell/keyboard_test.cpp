@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "shell/paper.h"
 #include "support/pupil.h"
 #include "support/writing_canvas.h"
 
@@ -228,6 +229,43 @@ TEST_F(Keyboard, GoesWhereAChildWouldGoNext) {
     pupil.Press(Key::kUp);
     EXPECT_EQ(screens.apprendre.letter_code.ui.chiffre4.caption(), "C");
     EXPECT_EQ(focused(), &screens.apprendre.letter_code.ui.chiffre4);
+}
+
+TEST_F(Keyboard, PrintsThePageShownUnderItsHead) {
+    const auto on_paper = [this] {
+        WritingCanvas canvas;
+        pupil.program.PaintOnPaper(canvas);
+        return canvas.out.str();
+    };
+    const auto on_screen = [this] {
+        WritingCanvas canvas;
+        pupil.program.Paint(canvas, {0, 0, 640, 480});
+        return canvas.out.str();
+    };
+    const std::string shown = on_screen();
+    pupil.Press(Key::kPrint);
+    EXPECT_TRUE(pupil.reaction.print);
+    EXPECT_EQ(on_screen(), shown);
+    EXPECT_FALSE(pupil.program.Take(event::KeyPressed{{.key = Key::kPrint, .repeated = true}}).print);
+    pupil.Press(Key::kTab);
+    EXPECT_FALSE(pupil.reaction.print);
+    EXPECT_NE(on_screen(), shown) << "the ring";
+    const std::string head = "|Onze Tables|";
+    EXPECT_TRUE(on_paper().find(head) < on_paper().find("|Samedi 21 novembre 2026|"));
+    EXPECT_TRUE(on_paper().find("picture") < on_paper().find("|SORTIE|"));
+    EXPECT_EQ(on_paper().find("in 16,42,140"), std::string::npos);
+    EXPECT_EQ(on_paper().find("|Nom :|"), std::string::npos);
+    pupil.Click(screens.depart.Image_bilan);
+    EXPECT_NE(on_paper().find("|Nom :|"), std::string::npos);
+
+    // The head is above the page, which keeps its shape.
+    for (const auto& [width, height] : {std::pair{1920, 1530}, {3000, 1530}, {1600, 2400}}) {
+        const PageView view = ViewOnPaper(width, height);
+        EXPECT_GE(view.ToPixels(Point{0, -30_px}).y, 0);
+        EXPECT_LE(view.page().bottom(), height);
+        EXPECT_LE(view.page().right(), width);
+        EXPECT_NEAR(view.page().width * 3, view.page().height * 4, 4);
+    }
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "support/writing_canvas.h"
+
 namespace onze {
 
 void Monkey::Act(Program& program) {
@@ -35,7 +37,9 @@ void Monkey::Press(Program& program) {
         if (random_.Draw(4) == 0) press.digit = static_cast<char>('0' + random_.Draw(10));
     }
     press.repeated = random_.Draw(8) == 0;
-    program.Take(event::KeyPressed{press});
+    if (!program.Take(event::KeyPressed{press}).print) return;
+    WritingCanvas paper;
+    program.PaintOnPaper(paper);
 }
 
 Pixel Monkey::Anywhere() {

@@ -29,6 +29,8 @@ std::optional<KeyPress> KeyPressOf(const QKeyEvent& event) {
         {Qt::Key_PageUp, Key::kPageUp}, {Qt::Key_PageDown, Key::kPageDown}, {Qt::Key_Home, Key::kHome},
         {Qt::Key_End, Key::kEnd},       {Qt::Key_Return, Key::kClick},      {Qt::Key_Enter, Key::kClick},
         {Qt::Key_Space, Key::kClick},   {Qt::Key_Escape, Key::kEscape}};
+    if (event.matches(QKeySequence::Print))
+        return KeyPress{.key = Key::kPrint, .repeated = event.isAutoRepeat()};
     if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return std::nullopt;
     KeyPress press{.key = kKeys.value(event.key(), Key::kCharacter), .repeated = event.isAutoRepeat()};
     if (press.key != Key::kCharacter) return press;

@@ -26,6 +26,7 @@ ReportWindow::ReportWindow(const QString& title, const QString& text) : text_(te
     text_box_.moveTopLeft({kMargin, kMargin});
     setTitle(title);
     setFlags(Qt::Dialog);
+    setModality(Qt::ApplicationModal);
     const QSize size(std::max(text_box_.width(), kButtonSize.width()) + 2 * kMargin,
                      text_box_.height() + kButtonSize.height() + 3 * kMargin);
     setMinimumSize(size);
@@ -33,12 +34,16 @@ ReportWindow::ReportWindow(const QString& title, const QString& text) : text_(te
     resize(size);
 }
 
-void ReportWindow::Run() {
+void ReportWindow::Present() {
     QRect place(QPoint(), size());
     place.moveCenter(screen()->availableGeometry().center());
     setPosition(place.topLeft());
     show();
     requestActivate();
+}
+
+void ReportWindow::Run() {
+    Present();
     // The application's own event loop may have been told to end, by what is reported.
     while (isVisible()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }

@@ -10,7 +10,8 @@ class ReportWindow final : public QRasterWindow {
   public:
     ReportWindow(const QString& title, const QString& text);
 
-    // Shows it in the middle of the screen, and returns once it is put away.
+    // Shows it in the middle of the screen. Run() returns once it is put away.
+    void Present();
     void Run();
 
   protected:

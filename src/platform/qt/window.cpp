@@ -17,6 +17,8 @@
 #include "platform/qt/canvas.h"
 #include "platform/qt/host.h"
 #include "platform/qt/keys.h"
+#include "platform/qt/printer.h"
+#include "platform/qt/report_window.h"
 
 namespace onze {
 
@@ -45,6 +47,8 @@ Window::Window(Program& program, QtHost& host) : program_(program), host_(host) 
     QObject::connect(&timer_, &QTimer::timeout, this, [this] { Take(event::TimePassed()); });
     QObject::connect(&next_, &QTimer::timeout, this, &Window::ScaleNext);
 }
+
+Window::~Window() = default;
 
 void Window::Present() {
     fills_screen_ = host_.desktop.fills_screen();
@@ -85,9 +89,29 @@ void Window::Follow(const Reaction& reaction) {
     if (!reaction.repaint.empty()) update(ToLogical(reaction.repaint));
     const Qt::CursorShape shape = reaction.hand ? Qt::PointingHandCursor : Qt::ArrowCursor;
     if (cursor().shape() != shape) setCursor(shape);
-    if (!reaction.wake_at) return timer_.stop();
-    timer_.start(
-        std::chrono::milliseconds(std::max<std::int64_t>(0, *reaction.wake_at - host_.clock.TickCount())));
+    if (reaction.wake_at) {
+        const std::int64_t wait = *reaction.wake_at - host_.clock.TickCount();
+        timer_.start(std::chrono::milliseconds(std::max<std::int64_t>(0, wait)));
+    } else {
+        timer_.stop();
+    }
+    if (reaction.print) Print();
+}
+
+void Window::Print() {
+    Sheet sheet;
+    {
+        ScaledPictures pictures;
+        QPainter painter(&sheet.device());
+        painter.setRenderHint(QPainter::LosslessImageRendering);
+        QtCanvas canvas(painter, sheet.view(), host_.fonts, pictures);
+        Follow(program_.PaintOnPaper(canvas));
+    }
+    const std::string trouble = sheet.Hand();
+    if (trouble.empty()) return;
+    report_ = std::make_unique<ReportWindow>(title(), QString::fromStdString(trouble));
+    report_->setTransientParent(this);
+    report_->Present();
 }
 
 void Window::mouseMoveEvent(QMouseEvent* event) {

@@ -3,6 +3,7 @@
 #include <QRasterWindow>
 #include <QSinglePointEvent>
 #include <QTimer>
+#include <memory>
 #include <thread>
 
 #include "platform/qt/scaled_pictures.h"
@@ -11,6 +12,7 @@
 namespace onze {
 
 class AccessiblePage;
+class ReportWindow;
 struct QtHost;
 
 // The one window: it shows the page, brings events to the program and wakes up when the program wants it. The
@@ -18,6 +20,7 @@ struct QtHost;
 class Window final : public QRasterWindow {
   public:
     Window(Program& program, QtHost& host);
+    ~Window() override;
 
     // Shows the window as the display that was asked for has it.
     void Present();
@@ -41,6 +44,7 @@ class Window final : public QRasterWindow {
 
   private:
     void Follow(const Reaction& reaction);
+    void Print();
     void TellSize();
     void FollowScreen(const QRect& geometry);
     void PaintGround(QPainter& painter, const QRegion& region) const;
@@ -66,6 +70,7 @@ class Window final : public QRasterWindow {
     QSize told_size_;  // in pixels
     bool fills_screen_ = false;
     std::string failure_;
+    std::unique_ptr<ReportWindow> report_;          // of what could not be printed
     mutable AccessiblePage* accessible_ = nullptr;  // Qt's, once a reader has asked for it
 };
 

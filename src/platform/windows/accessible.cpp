@@ -3,20 +3,13 @@
 #include <algorithm>
 
 #include "forms/up_down.h"
+#include "platform/windows/library.h"
 #include "platform/windows/utf8.h"
 #include "platform/windows/window.h"
 
 namespace onze {
 
 namespace {
-
-// Found only when a reader asks, so that no start waits for the libraries.
-template <class Function>
-Function Find(const wchar_t* in, const char* name) {
-    const HMODULE library = LoadLibraryW(in);
-    return library ? reinterpret_cast<Function>(reinterpret_cast<void (*)()>(GetProcAddress(library, name)))
-                   : nullptr;
-}
 
 HRESULT Write(const std::string& text, BSTR* to) {
     static const auto allocate = Find<decltype(&SysAllocString)>(L"oleaut32.dll", "SysAllocString");

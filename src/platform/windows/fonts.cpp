@@ -60,12 +60,21 @@ Size Fonts::MeasureText(std::string_view line, const Font& font) {
 }
 
 std::vector<int> Fonts::Advances(std::wstring_view line, const Font& font, double enlargement) {
-    const FontSelection selection(dc_, FontFor(line, font));
+    std::vector<int> ends = Ends(line, FontFor(line, font, enlargement));
+    if (ends.empty()) return ends;
+    // Where the larger letters are not as wide as the page has them, each gives way by as much.
+    const double width = Ends(line, FontFor(line, font)).back() * enlargement;
+    const double give = ends.back() > 0 ? width / ends.back() : 1;
+    for (int& end : ends) end = static_cast<int>(std::lround(end * give));
+    std::adjacent_difference(ends.begin(), ends.end(), ends.begin());
+    return ends;
+}
+
+std::vector<int> Fonts::Ends(std::wstring_view line, HFONT font) const {
+    const FontSelection selection(dc_, font);
     std::vector<int> ends(line.size());
     SIZE size{};
     GetTextExtentExPointW(dc_, line.data(), static_cast<int>(line.size()), 0, nullptr, ends.data(), &size);
-    for (int& end : ends) end = static_cast<int>(std::lround(end * enlargement));
-    std::adjacent_difference(ends.begin(), ends.end(), ends.begin());
     return ends;
 }
 

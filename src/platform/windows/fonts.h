@@ -35,6 +35,8 @@ class Fonts final : public TextMeasure {
     // Null when the system has no such bitmaps.
     HFONT Make(const Key& key);
     HFONT Get(const Key& key);
+    // Where each letter of a line ends, in pixels from its begin.
+    std::vector<int> Ends(std::wstring_view line, HFONT font) const;
     int EmOf(HFONT font) const;
     // Of the font that is selected.
     TEXTMETRICW Metrics() const;

@@ -33,8 +33,11 @@ char CharacterOf(WPARAM code, LPARAM lparam) {
 }  // namespace
 
 std::optional<KeyPress> KeyPressOf(WPARAM wparam, LPARAM lparam) {
-    if (IsDown(VK_CONTROL)) return std::nullopt;
     KeyPress press{.key = Key::kCharacter, .repeated = (lparam & kHeld) != 0};
+    if (IsDown(VK_CONTROL)) {
+        press.key = Key::kPrint;
+        return wparam == 'P' && !IsDown(VK_MENU) ? std::optional(press) : std::nullopt;
+    }
     if (wparam == VK_TAB) press.key = IsDown(VK_SHIFT) ? Key::kBackTab : Key::kTab;
     for (const auto& [code, key] : kKeys) {
         if (code == wparam) press.key = key;

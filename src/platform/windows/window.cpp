@@ -8,6 +8,9 @@
 #include "platform/windows/accessible.h"
 #include "platform/windows/canvas.h"
 #include "platform/windows/keys.h"
+#include "platform/windows/printer.h"
+#include "platform/windows/utf8.h"
+#include "shell/paper.h"
 
 namespace onze {
 
@@ -124,9 +127,18 @@ void Window::Follow(const Reaction& reaction) {
         const RECT pixels{box.left, box.top, box.right(), box.bottom()};
         InvalidateRect(handle_, &pixels, FALSE);
     }
-    if (hand_ == reaction.hand) return;
-    hand_ = reaction.hand;
-    ShowCursor();
+    if (hand_ != reaction.hand) {
+        hand_ = reaction.hand;
+        ShowCursor();
+    }
+    if (reaction.print) PrintPage();
+}
+
+void Window::PrintPage() {
+    PaperCanvas sheet(host_.fonts);
+    Follow(program_.PaintOnPaper(sheet));
+    if (!Running() || Print(handle_, sheet) != Printed::kFailed) return;
+    MessageBoxW(handle_, ToWide(NotPrinted()).c_str(), kTitle, MB_OK | MB_ICONWARNING);
 }
 
 LRESULT CALLBACK Window::Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam) {

@@ -40,6 +40,7 @@ class Window {
     void PassMessages();
 
     void Paint();
+    void PrintPage();
     void Press(Pixel at);
     void Release(Pixel at);
     void LoseCapture();
