@@ -18,7 +18,7 @@ FACES = {"regular": "LiberationSans-Regular.ttf", "bold": "LiberationSans-Bold.t
 # What French texts and the program's own are written with.
 LETTERS = "U+0020-007E,U+00A0-00FF,U+0152,U+0153,U+0178,U+2013,U+2014,U+2018-201E,U+2026,U+2212,U+2260"
 # In the order in which they need one another.
-SCRIPTS = ("program", "files", "canvas", "sounds", "reading", "input", "counters", "margin", "browser")
+SCRIPTS = ("program", "files", "canvas", "sounds", "reading", "input", "counters", "paper", "margin", "browser")
 POLICY = (
     "default-src 'none'; script-src {scripts} 'wasm-unsafe-eval'; style-src {style}; img-src 'self' data: blob:; "
     "connect-src 'self'; font-src 'self'; manifest-src 'self'; worker-src 'self'; base-uri 'none'; form-action 'none'"
@@ -33,6 +33,13 @@ def script():
     modules = [(WEB / f"{name}.mjs").read_text() for name in SCRIPTS]
     text = "".join(re.sub(r"^import [^;]*;\n", "", module, flags=re.M) for module in modules)
     return re.sub(r"^export ", "", text, flags=re.M)
+
+
+def check_script(scratch):
+    """One scope holds the names of all modules, each once."""
+    module = scratch / "script.mjs"
+    module.write_text(script())
+    subprocess.run(["node", "--check", module], check=True)
 
 
 def digest(text):
@@ -113,6 +120,7 @@ def build(module, folder):
     site = folder / "site"
     shutil.rmtree(site, ignore_errors=True)
     with tempfile.TemporaryDirectory() as scratch:
+        check_script(Path(scratch))
         files = program_files(module, Path(scratch))
     for path, data in site_files(files).items():
         (site / path).parent.mkdir(parents=True, exist_ok=True)

@@ -54,6 +54,7 @@ ONZE_BROWSER(placePage) void PlacePage(int left, int top, int width, int height)
 ONZE_BROWSER(repaint) void Repaint(int left, int top, int width, int height);
 ONZE_BROWSER(wakeIn) void WakeIn(double milliseconds);  // below 0: not at all
 ONZE_BROWSER(showHand) void ShowHand(bool hand);
+ONZE_BROWSER(printPage) void PrintPage();
 ONZE_BROWSER(end) void End();
 ONZE_BROWSER(fail) void Fail(const char* text, std::size_t length);
 

@@ -10,6 +10,7 @@ import { bytesOf, fileNow, findPicture, load, loadLarger, pictureOf, whenPicture
 import { canvas, drawing, followSize, page, placePage, repaint, repaintAll, view } from "./canvas.mjs";
 import { listenForTouch, sounds } from "./sounds.mjs";
 import { followReader, reading } from "./reading.mjs";
+import { followPrinting, printPage } from "./paper.mjs";
 import { listen } from "./input.mjs";
 import { canStore, counters, holdCounters, isFirst, isUnstored, keepBytes, readStored } from "./counters.mjs";
 import { hideFarewell, sayFarewell, showMargin, tell, untell } from "./margin.mjs";
@@ -77,6 +78,7 @@ const browser = {
     repaint,
     wakeIn,
     showHand: (hand) => void (canvas.style.cursor = hand ? "pointer" : ""),
+    printPage: () => void printPage(),
     end,
     fail: (at, size) => fail(textAt(at, size)),
     ...reading,
@@ -157,6 +159,7 @@ async function main() {
     listenForTouch();
     followReader();
     followVisibility();
+    followPrinting();
     await run();
     showMargin(takeUp, restart);
     tellOfStorage();

@@ -1,10 +1,11 @@
 // The canvas: what is drawn on it, how large it is, and when it is painted.
 
 import { program, textAt, numbersAt } from "./program.mjs";
-import { bitmapOf, pictureOf } from "./files.mjs";
+import { bitmapOf, pictureOf, wholeBitmapOf } from "./files.mjs";
 
 export const canvas = document.getElementById("page");
-const context = canvas.getContext("2d");
+const screenContext = canvas.getContext("2d");
+let context = screenContext;  // what is drawn on
 const kRestMs = 200;        // after which two fingers have come to rest
 const kMostPixels = 16e6;  // which all devices have room for
 const kFace = '"Onze Tables", "Liberation Sans", Arimo, Arial, sans-serif';
@@ -32,7 +33,8 @@ export const drawing = {
     unclip: () => context.restore(),
     drawPicture(number, fromLeft, fromTop, fromWidth, fromHeight, left, top, width, height) {
         const picture = pictureOf(number);
-        const bitmap = bitmapOf(picture, width, height);
+        const onScreen = context === screenContext;
+        const bitmap = onScreen ? bitmapOf(picture, width, height) : wholeBitmapOf(picture);
         if (!bitmap) return;
         const x = bitmap.width / picture.width;
         const y = bitmap.height / picture.height;
@@ -83,6 +85,13 @@ export const drawing = {
         return context.measureText(textAt(at, size)).width;
     },
 };
+
+// Has another canvas drawn on.
+export function drawOn(other, act) {
+    context = other.getContext("2d");
+    act();
+    context = screenContext;
+}
 
 // Where the page lies on the canvas, in its pixels.
 export let page = { left: 0, top: 0, width: 640, height: 480 };

@@ -4,7 +4,7 @@ import { bytesAt, countersNow, isCountersFile, program, write } from "./program.
 
 const kKey = "onze-tables/18";
 const kName = "18";
-const kMostBytes = 4096;
+const kMostFileBytes = 4096;
 
 let stored = null;    // as it was found, or written last; base64
 let unstored = null;  // bytes that the browser did not take: kept as long as the page is open
@@ -94,7 +94,7 @@ export function saveAsFile() {
 
 // The bytes of a file that someone chose, or null where it is no counters file.
 export async function readCounters(file) {
-    if (file.size > kMostBytes) return null;
+    if (file.size > kMostFileBytes) return null;
     const bytes = new Uint8Array(await file.arrayBuffer());
     return isCountersFile(bytes) ? bytes : null;
 }

@@ -5,6 +5,8 @@ const files = new Map();  // bytes, or null for what is not there
 const pictures = [];      // { name, blob, width, height, bitmap }
 const loading = new Map();
 const kLargerTimes = 3;
+const kMostPictureBytes = 48 << 20;
+let uses = 0;
 let onPicture = () => {};
 
 // A picture came, or came in another size.
@@ -67,7 +69,10 @@ export const pictureOf = (number) => pictures[number];
 
 // The picture as a bitmap, as near to this size as there is one now; null where there is none yet.
 export function bitmapOf(picture, width, height) {
-    if (picture.isPage && picture.wanted !== `${width} ${height}`) scalePage(picture, width, height);
+    if (picture.isPage) {
+        picture.lastUse = ++uses;
+        if (picture.wanted !== `${width} ${height}`) scalePage(picture, width, height);
+    }
     return picture.bitmap ?? picture.smaller?.bitmap;
 }
 
@@ -76,11 +81,49 @@ async function scalePage(picture, width, height) {
     const wanted = `${width} ${height}`;
     picture.wanted = wanted;
     const size = { resizeWidth: width, resizeHeight: height, resizeQuality: "high" };
-    const bitmap = await createImageBitmap(picture.blob, size).catch(() => createImageBitmap(picture.blob));
+    const whole = () => createImageBitmap(picture.blob);
+    const bitmap = await (width < picture.width ? createImageBitmap(picture.blob, size).catch(whole) : whole());
     if (picture.wanted !== wanted) return bitmap.close();
-    picture.bitmap?.close();
+    drop(picture);
+    picture.wanted = wanted;
     picture.bitmap = bitmap;
+    dropOld(picture);
     onPicture();
+}
+
+function drop(picture) {
+    picture.bitmap?.close();
+    picture.bitmap = picture.wanted = null;
+}
+
+const bytesIn = (bitmap) => (bitmap ? 4 * bitmap.width * bitmap.height : 0);
+const bytesKept = () => pictures.reduce((sum, picture) => sum + (picture.isPage ? bytesIn(picture.bitmap) : 0), 0);
+
+// Larger pages are kept as long as there is room for them, the others are decoded anew.
+function dropOld(newest) {
+    const pages = pictures.filter((picture) => picture.bitmap && picture.isPage && picture !== newest);
+    pages.sort((a, b) => a.lastUse - b.lastUse);
+    while (bytesKept() > kMostPictureBytes && pages.length > 0) drop(pages.shift());
+}
+
+// The picture as large as it is, for paper; null until it is there.
+export function wholeBitmapOf(picture) {
+    if (!picture.isPage) return picture.bitmap;
+    picture.whole ??= createImageBitmap(picture.blob).then((bitmap) => (picture.wholeBitmap = bitmap));
+    return picture.wholeBitmap ?? picture.bitmap ?? picture.smaller?.bitmap;
+}
+
+// Waits for what was asked for so far.
+export async function allIsThere() {
+    await Promise.all(loading.values());
+    await Promise.all(pictures.map((picture) => picture.whole));
+}
+
+export function forgetWhole() {
+    for (const picture of pictures) {
+        picture.wholeBitmap?.close();
+        picture.whole = picture.wholeBitmap = null;
+    }
 }
 
 // The larger pages one after the other, so that a click finds its page ready.
@@ -88,6 +131,6 @@ export async function loadLarger(names, width, height) {
     for (const name of names) {
         await load(name);
         const picture = pictures.find((one) => one.name === name);
-        if (picture) bitmapOf(picture, width, height);
+        if (picture && bytesKept() + 4 * width * height <= kMostPictureBytes) bitmapOf(picture, width, height);
     }
 }

@@ -46,7 +46,7 @@ function turn(event) {
 function keyDown(event) {
     const at = document.activeElement;
     const elsewhere = at && at !== document.body && !isRead(at);
-    if (!program || elsewhere || event.ctrlKey || event.altKey || event.metaKey || event.isComposing) return;
+    if (!program || elsewhere || event.altKey || event.isComposing) return;
     if (event.key === "Tab" && isRead(at) && isEnd(at, event.shiftKey)) return;
     if (pressKey(event)) event.preventDefault();
 }

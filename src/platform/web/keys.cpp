@@ -24,7 +24,12 @@ char DigitOn(std::string_view code) {
 
 }  // namespace
 
-std::optional<KeyPress> KeyPressOf(std::string_view key, std::string_view code, bool shift, bool repeated) {
+std::optional<KeyPress> KeyPressOf(std::string_view key, std::string_view code, bool shift, bool control,
+                                   bool repeated) {
+    if (control) {
+        if (key != "p" && key != "P") return std::nullopt;
+        return KeyPress{.key = Key::kPrint, .repeated = repeated};
+    }
     for (const auto& [name, known] : kKeys) {
         if (name != key) continue;
         return KeyPress{.key = known == Key::kTab && shift ? Key::kBackTab : known, .repeated = repeated};

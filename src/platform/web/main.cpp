@@ -67,6 +67,10 @@ ONZE_EXPORT(paint) void Paint(int left, int top, int width, int height) {
     TheRun().window.Paint({left, top, width, height});
 }
 
+ONZE_EXPORT(paintOnPaper) void PaintOnPaper(int width, int height) {
+    TheRun().window.PaintOnPaper(width, height);
+}
+
 ONZE_EXPORT(time) void PassTime() {
     Take(event::TimePassed());
 }
@@ -102,10 +106,11 @@ ONZE_EXPORT(wheel) void Wheel(int x, int y, int turn) {
 
 // The key's name and its place on the keyboard stand in the room, one behind the other. Tells whether the
 // program has a use for it.
-ONZE_EXPORT(key) bool Key(std::size_t name_size, std::size_t code_size, bool shift, bool repeated) {
+ONZE_EXPORT(key)
+bool Key(std::size_t name_size, std::size_t code_size, bool shift, bool control, bool repeated) {
     const std::string_view texts(reinterpret_cast<const char*>(Room().data()), Room().size());
     const auto press =
-        KeyPressOf(texts.substr(0, name_size), texts.substr(name_size, code_size), shift, repeated);
+        KeyPressOf(texts.substr(0, name_size), texts.substr(name_size, code_size), shift, control, repeated);
     if (press) Take(event::KeyPressed{*press});
     return press.has_value();
 }

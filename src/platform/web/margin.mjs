@@ -1,6 +1,7 @@
 // What stands beside the page: its few buttons, the sentences of trouble, the farewell.
 
 import { program } from "./program.mjs";
+import { printPage } from "./paper.mjs";
 import { isUnstored, readCounters, saveAsFile } from "./counters.mjs";
 
 const element = (id) => document.getElementById(id);
@@ -56,6 +57,7 @@ function offerCounters(takeUp) {
 
 export function showMargin(takeUp, restart) {
     offerFullScreen();
+    element("imprimer").addEventListener("click", () => printPage());
     offerCounters(takeUp);
     element("recommencer").addEventListener("click", restart);
     element("fermer").addEventListener("click", () => untell());
@@ -71,10 +73,12 @@ export function sayFarewell(title, text) {
     leaveFullScreen();
     element("adieu-titre").textContent = title;
     element("adieu-texte").textContent = text;
+    element("lecture").hidden = true;
     element("adieu").hidden = false;
     element("recommencer").focus();
 }
 
 export function hideFarewell() {
     element("adieu").hidden = true;
+    element("lecture").hidden = false;
 }

@@ -35,7 +35,8 @@ export function pressKey(event) {
     const key = encoder.encode(event.key);
     const code = encoder.encode(event.code);
     fillRoom(Uint8Array.of(...key, ...code));
-    return program.key(key.length, code.length, event.shiftKey, event.repeat);
+    const control = event.ctrlKey || event.metaKey;
+    return program.key(key.length, code.length, event.shiftKey, control, event.repeat);
 }
 
 // What the C++ library asks of a system: the time, and a place for its last words.

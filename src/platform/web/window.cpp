@@ -5,6 +5,7 @@
 #include "forms/ground.h"
 #include "platform/web/browser.h"
 #include "platform/web/canvas.h"
+#include "shell/paper.h"
 
 namespace onze {
 
@@ -23,6 +24,7 @@ void Window::Follow(const Reaction& reaction) {
     const std::int64_t now = host_.clock.TickCount();
     browser::WakeIn(reaction.wake_at ? static_cast<double>(std::max<std::int64_t>(0, *reaction.wake_at - now))
                                      : -1);
+    if (reaction.print) browser::PrintPage();
 }
 
 void Window::Paint(const PixelBox& part) {
@@ -35,6 +37,11 @@ void Window::Paint(const PixelBox& part) {
     browser::Unclip();
     browser::Unclip();
     Follow(reaction);
+}
+
+void Window::PaintOnPaper(int width, int height) {
+    WebCanvas canvas(ViewOnPaper(width, height));
+    Follow(program_.PaintOnPaper(canvas));
 }
 
 void Window::Use(std::size_t index, onze::Use use) {

@@ -14,6 +14,8 @@ class Window {
     void Take(const Event& event) { Follow(program_.Take(event)); }
     // Paints a part of the canvas.
     void Paint(const PixelBox& part);
+    // Paints the page on a sheet of this many pixels.
+    void PaintOnPaper(int width, int height);
     // Someone uses an element that stands for a control.
     void Use(std::size_t index, onze::Use use);
     // Nothing more is meant on the page.
