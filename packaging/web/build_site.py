@@ -17,6 +17,7 @@ FONTS = Path("/usr/share/fonts/truetype/liberation2")
 FACES = {"regular": "LiberationSans-Regular.ttf", "bold": "LiberationSans-Bold.ttf"}
 # What French texts and the program's own are written with.
 LETTERS = "U+0020-007E,U+00A0-00FF,U+0152,U+0153,U+0178,U+2013,U+2014,U+2018-201E,U+2026,U+2212,U+2260"
+DROPPED = "--drop-tables+=FFTM", "--name-IDs=0,13,14"  # the face's own name is for the unchanged one
 # In the order in which they need one another.
 SCRIPTS = ("program", "files", "canvas", "sounds", "reading", "input", "counters", "paper", "margin", "browser")
 POLICY = (
@@ -74,7 +75,7 @@ def icon(pixels, full=False):
 def font(face, folder):
     subset = folder / face
     command = [sys.executable, "-m", "fontTools.subset", FONTS / face, f"--output-file={subset}", "--flavor=woff2"]
-    subprocess.run([*command, f"--unicodes={LETTERS}", "--no-hinting", "--layout-features=kern"], check=True)
+    subprocess.run([*command, f"--unicodes={LETTERS}", "--no-hinting", "--layout-features=kern", *DROPPED], check=True)
     return subset.read_bytes()
 
 
