@@ -19,13 +19,13 @@ FACES = {"regular": "LiberationSans-Regular.ttf", "bold": "LiberationSans-Bold.t
 LETTERS = "U+0020-007E,U+00A0-00FF,U+0152,U+0153,U+0178,U+2013,U+2014,U+2018-201E,U+2026,U+2212,U+2260"
 DROPPED = "--drop-tables+=FFTM", "--name-IDs=0,13,14"  # the face's own name is for the unchanged one
 # In the order in which they need one another.
-SCRIPTS = ("program", "files", "canvas", "sounds", "reading", "input", "counters", "paper", "margin", "browser")
+SCRIPTS = ("program", "files", "canvas", "sounds", "reading", "input", "counters", "paper", "margin", "calendar", "browser")
 POLICY = (
     "default-src 'none'; script-src {scripts} 'wasm-unsafe-eval'; style-src {style}; img-src 'self' data: blob:; "
     "connect-src 'self'; font-src 'self'; manifest-src 'self'; worker-src 'self'; base-uri 'none'; form-action 'none'"
 )
 SITE_LINKS = """<link rel="manifest" href="manifest.json">
-<link rel="icon" type="image/png" href="icons/192.png">
+<link rel="icon" type="image/png" href="icons/48.png">
 <link rel="apple-touch-icon" href="icons/180.png">"""
 
 
@@ -96,7 +96,7 @@ def site_files(files):
     version = hashlib.sha256(b"".join(files.values()) + page("", "").encode()).hexdigest()[:12]
     site = {"index.html": page(version, SITE_LINKS).encode(), **files}
     site["manifest.json"] = (WEB / "manifest.json").read_bytes()
-    for pixels in (180, 192, 512):
+    for pixels in (48, 180, 192, 512):
         site[f"icons/{pixels}.png"] = icon(pixels)
     site["icons/512-plein.png"] = icon(512, full=True)
     digests = {"./" if path == "index.html" else path: hashlib.sha256(data).hexdigest() for path, data in site.items()}

@@ -13,6 +13,7 @@ import { followReader, reading } from "./reading.mjs";
 import { followPrinting, printPage } from "./paper.mjs";
 import { listen } from "./input.mjs";
 import { canStore, counters, holdCounters, isFirst, isUnstored, keepBytes, readStored } from "./counters.mjs";
+import { longDate, timeOfDay } from "./calendar.mjs";
 import { hideFarewell, sayFarewell, showMargin, tell, untell } from "./margin.mjs";
 
 const kAtStart = ["15", "18", "anim", "11", "12", "13", "14", "16"];
@@ -27,10 +28,6 @@ const kNothingKept =
 const kSecondTab =
     "Onze Tables est déjà ouvert dans un autre onglet : ce qui est compté dans celui-ci ne sera pas gardé.";
 const kNotStored = "Les compteurs n'ont pas pu être gardés. « Enregistrer mes compteurs » en fait un fichier.";
-
-const locale = navigator.languages?.find((language) => /^fr\b/i.test(language)) ?? "fr-FR";
-// Without the blanks that fonts lack.
-const inFrench = (style) => new Intl.DateTimeFormat(locale, style).format(new Date()).replace(/\s/g, " ");
 
 const kIsSite = !document.getElementById("onze-tables.wasm");  // and not one file
 
@@ -70,8 +67,8 @@ const browser = {
     ...drawing,
     startSound: (at, size) => sounds.start(textAt(at, size)),
     stopSound: sounds.stop,
-    longDate: (at, room) => writeText(at, room, inFrench({ dateStyle: "full" })),
-    timeOfDay: (at, room) => writeText(at, room, inFrench({ timeStyle: "medium" })),
+    longDate: (at, room) => writeText(at, room, longDate()),
+    timeOfDay: (at, room) => writeText(at, room, timeOfDay()),
     screenWidth: () => Math.round(screen.width * devicePixelRatio),
     screenHeight: () => Math.round(screen.height * devicePixelRatio),
     placePage,
@@ -139,6 +136,12 @@ function tellOfStorage() {
     });
 }
 
+function afterFirstPage() {
+    showMargin(takeUp, restart);
+    tellOfStorage();
+    loadTheRest();
+}
+
 function followVisibility() {
     document.addEventListener("visibilitychange", () => {
         if (dueAt >= 0) wakeIn(Math.max(0, dueAt - performance.now()));
@@ -161,9 +164,7 @@ async function main() {
     followVisibility();
     followPrinting();
     await run();
-    showMargin(takeUp, restart);
-    tellOfStorage();
-    requestAnimationFrame(() => setTimeout(loadTheRest));
+    requestAnimationFrame(() => setTimeout(afterFirstPage));
 }
 
 window.onzeTables = { view };

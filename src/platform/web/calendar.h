@@ -4,7 +4,7 @@
 
 namespace onze {
 
-// In French, as it is written where the user lives.
+// In French, whatever language the browser speaks.
 class WebCalendar final : public Calendar {
   public:
     std::string LongDate() const override;
