@@ -3,7 +3,8 @@
 
 const kVersion = "@VERSION@";
 const kFiles = @FILES@;  // with the digests of their bytes
-const kCache = `onze-tables-${kVersion}`;
+const kCaches = `onze-tables ${self.registration.scope} `;  // of this folder's versions
+const kCache = kCaches + kVersion;
 
 async function digestOf(bytes) {
     const digest = await crypto.subtle.digest("SHA-256", bytes);
@@ -30,7 +31,7 @@ async function install() {
 
 async function activate() {
     for (const name of await caches.keys()) {
-        if (name.startsWith("onze-tables-") && name !== kCache) await caches.delete(name);
+        if (name.startsWith(kCaches) && name !== kCache) await caches.delete(name);
     }
     await self.clients.claim();
 }
