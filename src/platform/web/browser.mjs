@@ -92,9 +92,9 @@ async function run() {
 
 async function restart() {
     if (failed) return location.reload();
-    hideFarewell();
     untell();
     await run();
+    if (!failed) hideFarewell();
     repaintAll();
 }
 

@@ -7,7 +7,7 @@ export const canvas = document.getElementById("page");
 const screenContext = canvas.getContext("2d");
 let context = screenContext;  // what is drawn on
 const kRestMs = 200;        // after which two fingers have come to rest
-const kMostPixels = 16e6;  // which all devices have room for
+const kMostPixels = 9e6;    // which devices have room for
 const kFace = '"Onze Tables", "Liberation Sans", Arimo, Arial, sans-serif';
 
 const colorOf = (color) => `#${color.toString(16).padStart(6, "0")}`;
