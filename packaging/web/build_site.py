@@ -19,7 +19,7 @@ FACES = {"regular": "LiberationSans-Regular.ttf", "bold": "LiberationSans-Bold.t
 LETTERS = "U+0020-007E,U+00A0-00FF,U+0152,U+0153,U+0178,U+2013,U+2014,U+2018-201E,U+2026,U+2212,U+2260"
 DROPPED = "--drop-tables+=FFTM", "--name-IDs=0,13,14"  # the face's own name is for the unchanged one
 # In the order in which they need one another.
-SCRIPTS = ("program", "files", "canvas", "sounds", "reading", "input", "counters", "paper", "margin", "calendar", "browser")
+SCRIPTS = "program files canvas sounds reading input counters paper margin calendar browser".split()
 POLICY = (
     "default-src 'none'; script-src {scripts} 'wasm-unsafe-eval'; style-src {style}; img-src 'self' data: blob:; "
     "connect-src 'self'; font-src 'self'; manifest-src 'self'; worker-src 'self'; base-uri 'none'; form-action 'none'"
@@ -91,17 +91,22 @@ def program_files(module, folder):
     return files
 
 
+def digest_of(data):
+    return hashlib.sha256(data).hexdigest()
+
+
 def site_files(files):
     """The same, with the page and what a browser needs to install it."""
-    version = hashlib.sha256(b"".join(files.values()) + page("", "").encode()).hexdigest()[:12]
-    site = {"index.html": page(version, SITE_LINKS).encode(), **files}
-    site["manifest.json"] = (WEB / "manifest.json").read_bytes()
+    site = {**files, "manifest.json": (WEB / "manifest.json").read_bytes()}
     for pixels in (48, 180, 192, 512):
         site[f"icons/{pixels}.png"] = icon(pixels)
     site["icons/512-plein.png"] = icon(512, full=True)
-    digests = {"./" if path == "index.html" else path: hashlib.sha256(data).hexdigest() for path, data in site.items()}
-    worker = fill((WEB / "service_worker.js").read_text(), version=version, files=json.dumps(digests, indent=4))
-    return {**site, "service_worker.js": worker.encode(), "fonts/LICENSE": licence()}
+    worker = (WEB / "service_worker.js").read_text()
+    version = digest_of(b"".join([*site.values(), page("", SITE_LINKS).encode(), worker.encode()]))[:12]
+    site["index.html"] = page(version, SITE_LINKS).encode()
+    digests = {"./" if path == "index.html" else path: digest_of(data) for path, data in site.items()}
+    site["service_worker.js"] = fill(worker, version=version, files=json.dumps(digests, indent=4)).encode()
+    return {**site, "fonts/LICENSE": licence()}
 
 
 def licence():

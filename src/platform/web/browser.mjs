@@ -18,6 +18,7 @@ import { hideFarewell, sayFarewell, showMargin, tell, untell } from "./margin.mj
 
 const kAtStart = ["15", "18", "anim", "11", "12", "13", "14", "16"];
 const kLarger = ["15.3x", "11.3x", "13.3x", "16.3x", "14.3x", "12.3x", "anim.3x"];
+const kWorthLarger = 1.2;  // as forms/drawing.h has it
 const kFirstSounds = ["5", "3", "1", "2", "4", "6", "7", "8", "9", "10"];
 
 const kTooOld = "Ce navigateur est trop ancien pour Onze Tables. Mettez-le à jour, ou prenez-en un autre.";
@@ -27,6 +28,7 @@ const kNothingKept =
     "« Enregistrer mes compteurs » en fait un fichier.";
 const kSecondTab =
     "Onze Tables est déjà ouvert dans un autre onglet : ce qui est compté dans celui-ci ne sera pas gardé.";
+const kReplaced = "Ce qui a été compté depuis le début de la visite sera perdu. Continuer ?";
 const kNotStored = "Les compteurs n'ont pas pu être gardés. « Enregistrer mes compteurs » en fait un fichier.";
 
 const kIsSite = !document.getElementById("onze-tables.wasm");  // and not one file
@@ -99,33 +101,32 @@ async function restart() {
 }
 
 async function takeUp(bytes) {
-    if (program?.hasCounted() && !confirm("Ce qui a été compté depuis le début de la visite sera perdu. Continuer ?"))
-        return;
+    if (program?.hasCounted() && !confirm(kReplaced)) return;
     endProgram();
     keepBytes(bytes);
     await restart();
     if (isUnstored()) tell(kNotStored);
 }
 
-async function loadFonts() {
-    const faces = [["regular", "normal"], ["bold", "bold"]].map(async ([name, weight]) => {
-        const bytes = await bytesOf(`fonts/${name}.woff2`);
-        if (bytes) document.fonts.add(await new FontFace("Onze Tables", bytes, { weight }).load());
-    });
-    await Promise.all(faces);
+// Without it the page is written in a face of the system's.
+async function loadFont(name, weight) {
+    const bytes = await bytesOf(`fonts/${name}.woff2`);
+    if (bytes) document.fonts.add(await new FontFace("Onze Tables", bytes, { weight }).load());
 }
+
+const loadFonts = () => Promise.allSettled([loadFont("regular", "normal"), loadFont("bold", "bold")]);
 
 async function loadProgram() {
     const bytes = await bytesOf("onze-tables.wasm");
     if (bytes) compiled = await WebAssembly.compile(bytes);
 }
 
-// What is not needed for the first page: sounds, and larger pictures where pages are shown larger.
+// What is not needed for the first page: sounds, larger pictures where pages are shown larger, and all that is needed
+// without a network.
 async function loadTheRest() {
-    if (kIsSite) navigator.serviceWorker?.register("service_worker.js").catch(() => {});
-    for (const name of kFirstSounds) await load(name);
-    const { width, height } = page;
-    if (width > 640 * 1.2) await loadLarger(kLarger, width, height);
+    await Promise.all(kFirstSounds.map(load));
+    if (page.width > 640 * kWorthLarger) await loadLarger(kLarger, page.width, page.height);
+    if (kIsSite) await navigator.serviceWorker?.register("service_worker.js");
 }
 
 function tellOfStorage() {
@@ -139,7 +140,7 @@ function tellOfStorage() {
 function afterFirstPage() {
     showMargin(takeUp, restart);
     tellOfStorage();
-    loadTheRest();
+    loadTheRest().catch(() => {});
 }
 
 function followVisibility() {
@@ -149,7 +150,7 @@ function followVisibility() {
 }
 
 async function main() {
-    holdCounters(() => untell(kSecondTab));
+    holdCounters((unchanged) => unchanged && untell(kSecondTab));
     followSize();
     whenPictureComes(repaintAll);
     try {
@@ -168,4 +169,4 @@ async function main() {
 }
 
 window.onzeTables = { view };
-main();
+main().catch((error) => fail(`Erreur inattendue : ${error.message}`));

@@ -1,6 +1,6 @@
 // The counters that the browser keeps: the bytes of the file "18".
 
-import { bytesAt, countersNow, isCountersFile, program, write } from "./program.mjs";
+import { bytesAt, countersNow, isCountersFile, write } from "./program.mjs";
 
 const kKey = "onze-tables/18";
 const kName = "18";
@@ -67,24 +67,26 @@ export function canStore() {
     }
 }
 
-// Of all tabs one has the counters, until it is closed.
+// Of all tabs one has the counters, until it is closed. Tells when this one has them, and whether they are those that
+// it began with.
 export function holdCounters(tell) {
     if (!navigator.locks) return;
-    first = false;
-    navigator.locks.request("onze-tables", () => {
+    const hold = () => {
         first = true;
-        tell();
+        tell(look() === stored);
+    };
+    const holdForEver = () => {
+        hold();
         return new Promise(() => {});
-    }).catch(() => {
-        first = true;
-        tell();
-    });
+    };
+    first = false;
+    navigator.locks.request("onze-tables", holdForEver).catch(hold);
 }
 
 export const isFirst = () => first;
 
 export function saveAsFile() {
-    const bytes = program ? countersNow() : kept();
+    const bytes = countersNow();
     const link = document.createElement("a");
     link.href = URL.createObjectURL(new Blob([bytes], { type: "application/octet-stream" }));
     link.download = kName;

@@ -34,7 +34,7 @@ function showFullScreen() {
 
 function offerFullScreen() {
     const button = element("plein-ecran");
-    button.hidden = !enter;
+    button.hidden = !(document.fullscreenEnabled ?? document.webkitFullscreenEnabled);
     button.addEventListener("click", () => switchFullScreen().catch(() => {}));
     for (const kind of ["fullscreenchange", "webkitfullscreenchange"]) document.addEventListener(kind, showFullScreen);
 }
