@@ -19,7 +19,7 @@ FACES = {"regular": "LiberationSans-Regular.ttf", "bold": "LiberationSans-Bold.t
 LETTERS = "U+0020-007E,U+00A0-00FF,U+0152,U+0153,U+0178,U+2013,U+2014,U+2018-201E,U+2026,U+2212,U+2260"
 DROPPED = "--drop-tables+=FFTM", "--name-IDs=0,13,14"  # the face's own name is for the unchanged one
 # In the order in which they need one another.
-SCRIPTS = "program files canvas sounds reading input counters paper margin calendar browser".split()
+SCRIPTS = "program pictures files canvas sounds reading input counters paper margin calendar browser".split()
 POLICY = (
     "default-src 'none'; script-src {scripts} 'wasm-unsafe-eval'; style-src {style}; img-src 'self' data: blob:; "
     "connect-src 'self'; font-src 'self'; manifest-src 'self'; worker-src 'self'; base-uri 'none'; form-action 'none'"

@@ -6,7 +6,8 @@
 //   window.onzeTables.view()  where the page lies; see canvas.mjs
 
 import { endProgram, makeProgram, program, textAt, write, writeText } from "./program.mjs";
-import { bytesOf, fileNow, findPicture, load, loadLarger, pictureOf, whenPictureComes } from "./files.mjs";
+import { decodeAhead, findPicture, followPictures, pictureOf, scaleAhead } from "./pictures.mjs";
+import { bytesOf, fileNow, load } from "./files.mjs";
 import { canvas, drawing, followSize, page, placePage, repaint, repaintAll, view } from "./canvas.mjs";
 import { listenForTouch, sounds } from "./sounds.mjs";
 import { followReader, reading } from "./reading.mjs";
@@ -16,7 +17,8 @@ import { canStore, counters, holdCounters, isFirst, isUnstored, keepBytes, readS
 import { longDate, timeOfDay } from "./calendar.mjs";
 import { hideFarewell, sayFarewell, showMargin, tell, untell } from "./margin.mjs";
 
-const kAtStart = ["15", "18", "anim", "11", "12", "13", "14", "16"];
+const kFirstPage = "15";
+const kAtStart = [kFirstPage, "18", "anim", "11", "12", "13", "14", "16"];
 const kLarger = ["15.3x", "11.3x", "13.3x", "16.3x", "14.3x", "12.3x", "anim.3x"];
 const kWorthLarger = 1.2;  // as forms/drawing.h has it
 const kFirstSounds = ["5", "3", "1", "2", "4", "6", "7", "8", "9", "10"];
@@ -63,7 +65,7 @@ const browser = {
     fileSize: (at, size) => fileNow(textAt(at, size))?.length ?? -1,
     readFile: (at, size, into) => write(into, fileNow(textAt(at, size))),
     ...counters,
-    findPicture: (at, size) => findPicture(textAt(at, size)),
+    findPicture: (at, size) => (fileNow(textAt(at, size)) ? findPicture(textAt(at, size)) : -1),
     pictureWidth: (number) => pictureOf(number).width,
     pictureHeight: (number) => pictureOf(number).height,
     ...drawing,
@@ -124,8 +126,11 @@ async function loadProgram() {
 // What is not needed for the first page: sounds, larger pictures where pages are shown larger, and all that is needed
 // without a network.
 async function loadTheRest() {
-    await Promise.all(kFirstSounds.map(load));
-    if (page.width > 640 * kWorthLarger) await loadLarger(kLarger, page.width, page.height);
+    await Promise.all([...kAtStart.map(decodeAhead), ...kFirstSounds.map(load)]);
+    for (const name of page.width > 640 * kWorthLarger ? kLarger : []) {
+        await load(name);
+        scaleAhead(name, page.width, page.height);
+    }
     if (kIsSite) await navigator.serviceWorker?.register("service_worker.js");
 }
 
@@ -152,9 +157,10 @@ function followVisibility() {
 async function main() {
     holdCounters((unchanged) => unchanged && untell(kSecondTab));
     followSize();
-    whenPictureComes(repaintAll);
+    followPictures(repaintAll, () => program?.checkPictures());
+    const loadFirstPage = load(kFirstPage).then(() => decodeAhead(kFirstPage));
     try {
-        await Promise.all([loadProgram(), loadFonts(), ...kAtStart.map(load)]);
+        await Promise.all([loadProgram(), loadFonts(), ...kAtStart.map(load), loadFirstPage]);
     } catch {
         return tell(kTooOld);
     }

@@ -1,7 +1,7 @@
 // The canvas: what is drawn on it, how large it is, and when it is painted.
 
 import { program, textAt, numbersAt } from "./program.mjs";
-import { bitmapOf, pictureOf, wholeBitmapOf } from "./files.mjs";
+import { bitmapOf, pictureOf, wholeBitmapOf } from "./pictures.mjs";
 
 export const canvas = document.getElementById("page");
 const screenContext = canvas.getContext("2d");

@@ -1,10 +1,12 @@
 #include <memory>
 
+#include "platform/web/browser.h"
 #include "platform/web/host.h"
 #include "platform/web/keys.h"
 #include "platform/web/window.h"
 #include "shell/program.h"
 #include "support/random.h"
+#include "support/run_time_error.h"
 
 using namespace onze;
 
@@ -128,6 +130,16 @@ ONZE_EXPORT(click) void Click(std::size_t index) {
 ONZE_EXPORT(makeRoom) std::byte* MakeRoom(std::size_t size) {
     Room().resize(size);
     return Room().data();
+}
+
+// A picture turned out to be none: ends the run as its start would have ended.
+ONZE_EXPORT(checkPictures) void CheckPictures() {
+    try {
+        const ScreenPictures pictures(TheRun().host.files, TheRun().host.pictures);
+    } catch (const RunTimeError& error) {
+        const std::string_view text = error.what();
+        browser::Fail(text.data(), text.size());
+    }
 }
 
 // Whether something was counted that no file holds.

@@ -2,7 +2,8 @@
 
 import { program } from "./program.mjs";
 import { drawOn } from "./canvas.mjs";
-import { allIsThere, forgetWhole } from "./files.mjs";
+import { allIsLoaded } from "./files.mjs";
+import { allIsWhole, forgetWhole } from "./pictures.mjs";
 
 // A4 on its side, without its margins; the page comes to lie there about as large as its larger picture is.
 const kWidth = 2268;
@@ -25,7 +26,8 @@ function forget() {
 // The first time tells which pictures are wanted.
 export async function printPage() {
     paint();
-    await allIsThere();
+    await allIsLoaded();
+    await allIsWhole();
     window.print();
 }
 
