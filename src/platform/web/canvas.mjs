@@ -119,10 +119,10 @@ export function view() {
 let damage = null;  // left, top, right, bottom
 
 function paintNow() {
-    if (!damage || !program) return;
+    if (!damage) return;
     const [left, top, right, bottom] = damage;
     damage = null;
-    program.paint(left, top, right - left, bottom - top);
+    program?.paint(left, top, right - left, bottom - top);
 }
 
 export function repaint(left, top, width, height) {
