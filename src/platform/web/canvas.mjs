@@ -119,10 +119,9 @@ export function view() {
 let damage = null;  // left, top, right, bottom
 
 function paintNow() {
-    if (!damage) return;
-    const [left, top, right, bottom] = damage;
-    damage = null;
-    program?.paint(left, top, right - left, bottom - top);
+    const [left, top, right, bottom] = damage ?? [0, 0, 0, 0];
+    damage = null;  // also of a run that has ended meanwhile
+    if (right > left) program?.paint(left, top, right - left, bottom - top);
 }
 
 export function repaint(left, top, width, height) {
