@@ -31,9 +31,21 @@ std::string Spelled(std::string_view word) {
 ReadControl::Kind KindOf(const Control& control) {
     using enum ReadControl::Kind;
     if (control.arrows() && control.IsStop()) return kToEnter;
-    if (control.role() == Role::kHeading) return kHeading;
-    if (control.IsStop() || control.role() == Role::kButton) return kToPress;
-    return control.role() == Role::kZone ? kPicture : kText;
+    switch (control.role()) {
+        case Role::kHeading:
+            return kHeading;
+        case Role::kTable:
+            return kTable;
+        case Role::kRowHeader:
+            return kRowHeader;
+        case Role::kColumnHeader:
+            return kColumnHeader;
+        case Role::kButton:
+            return kToPress;
+        default:
+            if (control.IsStop()) return kToPress;
+            return control.role() == Role::kZone ? kPicture : kText;
+    }
 }
 
 // What can be clicked tells what that does, too.

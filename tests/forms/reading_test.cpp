@@ -42,7 +42,13 @@ TEST(Reading, APageIsReadFromTheTopWithEachAnswerInItsLine) {
     EXPECT_TRUE(table.at(1).ends_with("; 12 fois 7 égale 84"));
     pupil.Click(pupil.screens.apprendre.retour);
     pupil.Click(pupil.screens.depart.pytha);
-    EXPECT_EQ(Read(pupil.screens.pythagore.form).at(8), "8, dans la colonne");
+    const auto read = ReadPage(pupil.screens.pythagore.form);
+    EXPECT_EQ(read.at(8).name, "8, dans la colonne");
+    EXPECT_EQ(read.at(8).kind, ReadControl::Kind::kRowHeader);
+    const auto grid = std::ranges::find(read, ReadControl::Kind::kTable, &ReadControl::kind);
+    ASSERT_NE(grid, read.end());
+    EXPECT_NE(grid->name.find("; rangée de 8 : 0, 8, 16, 24, 32, 40, 48, 56, 64, 72, 80 ;"),
+              std::string::npos);
 }
 
 }  // namespace
