@@ -17,8 +17,13 @@ constexpr std::int64_t kTypingMs = 1000;
 constexpr int kPageOfSteps = 10;
 constexpr int kAllSteps = std::numeric_limits<int>::max();
 
+// The place of a control among others; their number where it is none of them.
+std::ptrdiff_t PlaceIn(const std::vector<Control*>& controls, const Control* control) {
+    return std::find(controls.begin(), controls.end(), control) - controls.begin();
+}
+
 bool Holds(const std::vector<Control*>& stops, const Control* control) {
-    return std::ranges::find(stops, control) != stops.end();
+    return PlaceIn(stops, control) < std::ssize(stops);
 }
 
 bool IsHeader(const Control& control) {
@@ -41,9 +46,6 @@ Focus::Stops Focus::StopsOfPage() const {
 // What is only disabled is waited for, unless there is another of its kind to use now.
 Control* Focus::HeirOf(Control& lost, const Stops& stops) const {
     const Form& page = *stage_.front();
-    const auto place = [&page](const Control* control) {
-        return std::ranges::find(page.controls(), control) - page.controls().begin();
-    };
     const std::size_t area = page.AreaAt(lost.HitBox().Middle());
     const bool disabled = lost.visible() && !lost.enabled();
     Control* first = nullptr;
@@ -51,7 +53,7 @@ Control* Focus::HeirOf(Control& lost, const Stops& stops) const {
         if (page.AreaAt(stop->HitBox().Middle()) != area) continue;
         if (disabled && !AreAlike(*stop, lost)) continue;
         if (!first) first = stop;
-        if (place(stop) > place(&lost)) return stop;
+        if (PlaceIn(page.controls(), stop) > PlaceIn(page.controls(), &lost)) return stop;
     }
     if (first || disabled) return first ? first : &lost;
     return stops.empty() ? nullptr : stops.back();
@@ -92,7 +94,7 @@ void Focus::MoveBy(int by) {
     const Stops stops = StopsOfPage();
     if (stops.empty()) return;
     const auto count = static_cast<int>(stops.size());
-    const auto found = static_cast<int>(std::ranges::find(stops, at_) - stops.begin());
+    const auto found = static_cast<int>(PlaceIn(stops, at_));
     const int from = found < count ? found : by > 0 ? -1 : 0;
     MoveTo(stops[static_cast<std::size_t>((from + by + count) % count)]);
 }
@@ -103,7 +105,7 @@ Control* Focus::Neighbour(Key direction) const {
     const bool upright = direction == Key::kUp || direction == Key::kDown;
     const int sign = direction == Key::kUp || direction == Key::kLeft ? -1 : 1;
     const Stops stops = StopsOfPage();
-    const auto here = std::ranges::find(stops, at_) - stops.begin();
+    const std::ptrdiff_t here = PlaceIn(stops, at_);
     Control* nearest = nullptr;
     int least = 0;
     for (std::ptrdiff_t i = 0; i < std::ssize(stops); ++i) {

@@ -31,15 +31,16 @@ void Form::Hide() {
 }
 
 std::size_t Form::AreaAt(Point point) const {
-    const auto found =
-        std::ranges::find_if(areas_, [point](const Rect& area) { return area.Contains(point); });
+    const auto found = std::find_if(areas_.begin(), areas_.end(),
+                                    [point](const Rect& area) { return area.Contains(point); });
     return static_cast<std::size_t>(found - areas_.begin());
 }
 
 std::vector<Control*> Form::InReadingOrder() const {
     std::vector<Control*> ordered = controls_;
-    std::ranges::stable_sort(ordered, {},
-                             [this](const Control* control) { return AreaAt(control->HitBox().Middle()); });
+    std::stable_sort(ordered.begin(), ordered.end(), [this](const Control* a, const Control* b) {
+        return AreaAt(a->HitBox().Middle()) < AreaAt(b->HitBox().Middle());
+    });
     return ordered;
 }
 

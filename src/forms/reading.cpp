@@ -89,7 +89,8 @@ std::string LineOf(const Control& answer, const Form& page) {
             line.push_back(control);
         }
     }
-    std::ranges::sort(line, {}, [](const Control* control) { return control->box().left; });
+    std::sort(line.begin(), line.end(),
+              [](const Control* a, const Control* b) { return a->box().left < b->box().left; });
     std::string words = "Réponse :";
     for (const Control* control : line) words += " " + ValueOf(*control);
     return words;

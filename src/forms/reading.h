@@ -16,6 +16,8 @@ struct ReadControl {
     Kind kind = Kind::kText;
     std::string name;   // in French words
     std::string value;  // of an answer to enter, in words
+
+    friend bool operator==(const ReadControl&, const ReadControl&) = default;
 };
 
 // What a page has for those who do not see it, in the order of reading: what is visible, and has words.

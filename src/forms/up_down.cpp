@@ -23,7 +23,7 @@ std::string Plain(std::string_view text) {
 }
 
 bool IsNumber(const std::string& text) {
-    return !text.empty() && std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
+    return !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
 }
 
 }  // namespace

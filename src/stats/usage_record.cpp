@@ -1,5 +1,7 @@
 #include "stats/usage_record.h"
 
+#include <algorithm>
+
 #include "support/run_time_error.h"
 
 namespace onze {
@@ -111,6 +113,22 @@ UsageRecord FromBytes(std::span<const std::byte> bytes) {
     Reader reader(bytes);
     VisitFields(reader, record);
     return record;
+}
+
+bool IsUsageRecord(std::span<const std::byte> bytes) {
+    const UsageRecord record = FromBytes(bytes);
+    const std::vector<std::byte> written = ToBytes(record);
+    if (bytes.size() < written.size() || !std::equal(written.begin(), written.end(), bytes.begin()))
+        return false;
+    const Counters& counters = record.counters;
+    bool counts = counters.PuzzleCount >= 0 && counters.PuzzleRight >= 0 && counters.PuzzleWrong >= 0;
+    for (const TaggedNumber& number :
+         {counters.LessonConsultations, counters.PythagoreConsultations, counters.PythagoreSolves})
+        counts = counts && number.value() >= 0;
+    for (const auto& table :
+         {counters.TableConsultations, counters.TableExercises, counters.TableRight, counters.TableWrong})
+        counts = counts && *std::min_element(table.begin(), table.end()) >= 0;
+    return counts;
 }
 
 UsageRecord LoadUsageRecord(DataFiles& files) {

@@ -24,6 +24,8 @@ struct UsageRecord {
 // blanks), an unknown tag counts as empty.
 std::vector<std::byte> ToBytes(const UsageRecord& record);
 UsageRecord FromBytes(std::span<const std::byte> bytes);
+// Whether bytes were written as a record, whatever follows it, and count no less than nothing.
+bool IsUsageRecord(std::span<const std::byte> bytes);
 
 // The file of the counters.
 inline constexpr std::string_view kCountersFile = "18";

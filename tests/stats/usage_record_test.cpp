@@ -55,6 +55,18 @@ TEST(UsageRecord, StandsInTheFileFieldByField) {
     EXPECT_EQ(ToBytes(UsageRecord()).size(), 120U);
 }
 
+TEST(UsageRecord, IsToldFromOtherFiles) {
+    const std::string delivered = Text(ToBytes(UsageRecord()));
+    for (const std::string& record : {delivered, delivered + "et après", FullBytes().replace(28, 2, "\2\0"s)})
+        EXPECT_TRUE(IsUsageRecord(Bytes(record)));
+    std::string below_nothing = delivered;
+    below_nothing.back() = '\x80';
+    for (const std::string& other : {""s, "Ceci n'est pas un fichier de compteurs."s + std::string(200, ' '),
+                                     delivered.substr(0, 119), "\4"s + delivered.substr(1), below_nothing})
+        EXPECT_FALSE(IsUsageRecord(Bytes(other))) << other.size();
+    EXPECT_FALSE(IsUsageRecord(Bytes(FullBytes())));  // which counts -2 right answers
+}
+
 TEST(UsageRecord, ShortFilesLeaveZeros) {
     const std::string whole = FullBytes();
     EXPECT_EQ(FromBytes({}), UsageRecord());

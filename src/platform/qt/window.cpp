@@ -12,6 +12,7 @@
 #include <cmath>
 #include <utility>
 
+#include "forms/ground.h"
 #include "platform/qt/accessible.h"
 #include "platform/qt/canvas.h"
 #include "platform/qt/host.h"
@@ -22,10 +23,6 @@
 namespace onze {
 
 namespace {
-
-constexpr QColor kPaper(255, 253, 246);
-constexpr QColor kRule(222, 237, 243);
-constexpr int kRuling = 24_px;
 
 const QtPicture& AsQt(const PicturePtr& picture) {
     return static_cast<const QtPicture&>(*picture);
@@ -187,17 +184,12 @@ void Window::ScaleNext() {
     to_scale_.pop_back();
 }
 
-// The paper of the pages goes on beside the page.
 void Window::PaintGround(QPainter& painter, const QRegion& region) const {
-    const PageView& view = program_.view();
-    const int line = view.LengthToPixels(1_px);
     for (const QRect& bar : region) {
-        painter.fillRect(bar, kPaper);
-        const Rect on_page = view.Around(PixelBox{bar.left(), bar.top(), bar.width(), bar.height()});
-        for (int y = on_page.top / kRuling * kRuling; y < on_page.bottom(); y += kRuling)
-            painter.fillRect(bar & QRect(bar.left(), view.ToPixels(Point{0, y}).y, bar.width(), line), kRule);
-        for (int x = on_page.left / kRuling * kRuling; x < on_page.right(); x += kRuling)
-            painter.fillRect(bar & QRect(view.ToPixels(Point{x, 0}).x, bar.top(), line, bar.height()), kRule);
+        const PixelBox part{bar.left(), bar.top(), bar.width(), bar.height()};
+        for (const auto& [box, color] : GroundIn(program_.view(), part))
+            painter.fillRect(box.left, box.top, box.width, box.height,
+                             QColor(color.red, color.green, color.blue));
     }
 }
 

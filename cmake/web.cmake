@@ -1,0 +1,11 @@
+# Emscripten of Debian, whose linker looks for its JavaScript parser where Node of Debian does not.
+set(ENV{NODE_PATH} /usr/share/nodejs)
+set(CMAKE_SYSTEM_NAME Generic)
+set(CMAKE_SYSTEM_PROCESSOR wasm32)
+set(CMAKE_C_COMPILER emcc)
+set(CMAKE_CXX_COMPILER em++)
+set(CMAKE_AR emar)
+set(CMAKE_RANLIB emranlib)
+set(CMAKE_CXX_COMPILER_WORKS ON)
+set(CMAKE_CXX_FLAGS_INIT "-flto -fwasm-exceptions")
+set(ONZE_WEB ON)
