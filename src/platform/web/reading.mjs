@@ -6,7 +6,8 @@ import { canvas } from "./canvas.mjs";
 
 const layer = document.getElementById("lecture");
 const announcements = document.getElementById("annonces");
-const kKinds = ["p", "h2", "img", "button", "spinbutton"];  // of ReadControl::Kind
+// Of ReadControl::Kind. A header of a table is what it does: a button.
+const kKinds = ["p", "h2", "img", "img", "button", "button", "button", "spinbutton"];
 
 let elements = [];       // in the order of reading
 let before = new Map();  // those there were, by their controls
