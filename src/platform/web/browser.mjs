@@ -91,8 +91,8 @@ let compiled = null;
 async function run() {
     readStored();
     await makeProgram(compiled, browser, fail);
-    program.resize(canvas.width, canvas.height);
     program.start();
+    program?.resize(canvas.width, canvas.height);
 }
 
 async function restart() {
