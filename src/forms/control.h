@@ -15,13 +15,15 @@ class UpDown;
 
 // What a control is to its user.
 enum class Role {
-    kText,        // to read, whenever
-    kHeading,     // names what stands under it
-    kMessage,     // what an exercise asks or tells
-    kAnswer,      // entered with arrows, and clicked to have it corrected
-    kButton,      // clicked, under a caption
-    kZone,        // clicked, a part of the page's picture
-    kCell,        // of a table
+    kText,       // to read, whenever
+    kHeading,    // names what stands under it
+    kMessage,    // what an exercise asks or tells
+    kAnswer,     // entered with arrows, and clicked to have it corrected
+    kButton,     // clicked, under a caption
+    kZone,       // clicked, a part of the page's picture
+    kTable,      // of numbers, which its name tells in words
+    kRowHeader,  // of a table, clicked
+    kColumnHeader,
     kDecoration,  // nothing to anybody but the eye
 };
 

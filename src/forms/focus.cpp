@@ -26,6 +26,14 @@ bool Holds(const std::vector<Control*>& stops, const Control* control) {
     return PlaceIn(stops, control) < std::ssize(stops);
 }
 
+bool IsHeader(const Control& control) {
+    return control.role() == Role::kRowHeader || control.role() == Role::kColumnHeader;
+}
+
+bool AreAlike(const Control& one, const Control& other) {
+    return one.role() == other.role() || (IsHeader(one) && IsHeader(other));
+}
+
 }  // namespace
 
 Focus::Stops Focus::StopsOfPage() const {
@@ -43,7 +51,7 @@ Control* Focus::HeirOf(Control& lost, const Stops& stops) const {
     Control* first = nullptr;
     for (Control* stop : stops) {
         if (page.AreaAt(stop->HitBox().Middle()) != area) continue;
-        if (disabled && stop->role() != lost.role()) continue;
+        if (disabled && !AreAlike(*stop, lost)) continue;
         if (!first) first = stop;
         if (PlaceIn(page.controls(), stop) > PlaceIn(page.controls(), &lost)) return stop;
     }
@@ -106,7 +114,7 @@ Control* Focus::Neighbour(Key direction) const {
         const int down = stop->HitBox().Middle().y - at_->HitBox().Middle().y;
         const int along = sign * (upright ? down : right);
         const int across = std::abs(upright ? right : down);
-        const bool in_row = std::abs(i - here) == 1 && stop->role() == at_->role();
+        const bool in_row = std::abs(i - here) == 1 && AreAlike(*stop, *at_);
         if (along <= 0 || (across > along && !in_row)) continue;
         if (nearest && along + across >= least) continue;
         nearest = stop;

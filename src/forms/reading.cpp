@@ -21,6 +21,19 @@ std::string_view WordFor(std::string_view sign) {
     return sign;
 }
 
+bool IsSign(std::string_view word) {
+    return word != "??" && WordFor(word) != word;
+}
+
+// Takes the first word from a text; empty at its end.
+std::string_view NextWord(std::string_view& text) {
+    constexpr std::string_view kBlanks = " \r";
+    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+    const std::string_view word = text.substr(0, text.find_first_of(kBlanks));
+    text.remove_prefix(word.size());
+    return word;
+}
+
 // "A=1," is said as "A égale 1,".
 std::string Spelled(std::string_view word) {
     const std::size_t equals = word.find('=');
@@ -31,21 +44,36 @@ std::string Spelled(std::string_view word) {
 ReadControl::Kind KindOf(const Control& control) {
     using enum ReadControl::Kind;
     if (control.arrows() && control.IsStop()) return kToEnter;
-    if (control.role() == Role::kHeading) return kHeading;
-    if (control.IsStop() || control.role() == Role::kButton) return kToPress;
-    return control.role() == Role::kZone ? kPicture : kText;
+    switch (control.role()) {
+        case Role::kHeading:
+            return kHeading;
+        case Role::kTable:
+            return kTable;
+        case Role::kRowHeader:
+            return kRowHeader;
+        case Role::kColumnHeader:
+            return kColumnHeader;
+        case Role::kButton:
+            return kToPress;
+        default:
+            if (control.IsStop()) return kToPress;
+            return control.role() == Role::kZone ? kPicture : kText;
+    }
+}
+
+// What stands in an answer as it is said: a mark of question alone stands for what is asked, and an X among
+// letters is one.
+std::string ValueOf(const Control& answer) {
+    const UpDown* const arrows = answer.arrows();
+    if (arrows && arrows->text_of && arrows->text_of(arrows->minimum()) == "A") return answer.name();
+    return InWords(answer.name() == "?" ? "??" : answer.name());
 }
 
 // What can be clicked tells what that does, too.
 std::string NameOf(const Control& control) {
-    const std::string said = InWords(control.name());
+    const std::string said = control.arrows() ? ValueOf(control) : InWords(control.name());
     const std::string& more = control.given_name();
     return said == more || more.empty() || !control.IsStop() ? said : said + ", " + more;
-}
-
-// What stands in an answer as it is said: a mark of question alone stands for what is asked.
-std::string ValueOf(const Control& answer) {
-    return InWords(answer.name() == "?" ? "??" : answer.name());
 }
 
 // The line that an answer stands in, with what is still to be found in its place.
@@ -72,10 +100,11 @@ std::string LineOf(const Control& answer, const Form& page) {
 
 std::string InWords(std::string_view text) {
     std::string words;
-    for (std::size_t begin = 0; begin < text.size();) {
-        const std::size_t end = std::min(text.find_first_of(" \r", begin), text.size());
-        if (end > begin) words += (words.empty() ? "" : " ") + Spelled(text.substr(begin, end - begin));
-        begin = end + 1;
+    for (std::string_view word = NextWord(text), next; !word.empty(); word = next) {
+        next = NextWord(text);
+        // What a sign follows is none, but the letter.
+        const bool letter = word == "X" && IsSign(next);
+        words += (words.empty() ? "" : " ") + (letter ? std::string(word) : Spelled(word));
     }
     return words;
 }

@@ -10,7 +10,7 @@ namespace onze {
 
 // A control as a screen reader tells it.
 struct ReadControl {
-    enum class Kind { kText, kHeading, kPicture, kToPress, kToEnter };
+    enum class Kind { kText, kHeading, kPicture, kTable, kRowHeader, kColumnHeader, kToPress, kToEnter };
 
     Control* control = nullptr;
     Kind kind = Kind::kText;

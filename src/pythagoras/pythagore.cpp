@@ -15,14 +15,19 @@ constexpr int kGridTop = 85_px;
 constexpr Color kDisabled{104, 112, 136};
 constexpr Color kYellow{255, 255, 0};
 
-const LabelStyle kNumber{.role = Role::kCell,
-                         .font = {13.5_pt, true},
+const LabelStyle kNumber{.font = {13.5_pt, true},
                          .color = kRed,
                          .disabled_color = kDisabled,
                          .ring = kRed,
                          .align = Align::kCenter,
                          .middle = true,
                          .overhang = 2_px};
+LabelStyle Number(Role role) {
+    LabelStyle style = kNumber;
+    style.role = role;
+    return style;
+}
+
 const LabelStyle kBar{.fill = kYellow, .frame = kBlack};
 const LabelStyle kOperation{.font = {13.5_pt, true}, .color = kRed, .middle = true};
 
@@ -38,6 +43,15 @@ Rect ColumnBox(int i) {
 
 Rect RowBox(int j) {
     return {225_px + kPitch * j, kGridTop, 20_px, 20_px};
+}
+
+std::string ProductsInWords() {
+    std::string words = "Table de Pythagore, de 0 à 10";
+    for (int i = 0; i < kNumbers; ++i) {
+        words += (i == 0 ? " : rangée de " : " ; rangée de ") + Digits(i) + " :";
+        for (int j = 0; j < kNumbers; ++j) words += (j == 0 ? " " : ", ") + Digits(i * j);
+    }
+    return words;
 }
 
 constexpr auto kHistory =
@@ -67,8 +81,9 @@ Pythagore::Pythagore(Stage& stage, SharedState& shared, Form& depart)
       //         left    top     width   height
       cachehaut{ form, { 454_px,  85_px,  20_px,  20_px }, "", kBar },
       cachelong{ form, { 205_px,  60_px,  20_px,  20_px }, "", kBar },
-      colonne(form, kNumbers, ColumnBox, "", kNumber),
-      rangee(form, kNumbers, RowBox, "", kNumber),
+      colonne(form, kNumbers, ColumnBox, "", Number(Role::kRowHeader)),
+      rangee(form, kNumbers, RowBox, "", Number(Role::kColumnHeader)),
+      produits { form, { 225_px, 105_px, 210_px, 210_px }, Role::kTable },
       operation{ form, { 184_px, 449_px, 238_px,  29_px }, "",          kOperation },
       pita1    { form, {   1_px, 180_px, 207_px, 107_px }, kHistory,    Text(7_px) },
       pita2    { form, { 445_px,  95_px, 184_px, 125_px }, kLife,       Text(0) },
@@ -91,6 +106,7 @@ Pythagore::Pythagore(Stage& stage, SharedState& shared, Form& depart)
         colonne[i].on_click = [this, i] { colonne_Click(i); };
         rangee[i].on_click = [this, i] { rangee_Click(i); };
     }
+    produits.SetName(ProductsInWords());
     form.SetBack(retour);
     retour.on_click = [this] { retour_Click(); };
     blinker_.on_flash = [this] {

@@ -20,6 +20,7 @@ class Pythagore {
     Form form;
     Label cachehaut, cachelong;           // the bars, under the numbers
     ControlArray<Label> colonne, rangee;  // member i shows and stands for i
+    Image produits;                       // of the picture, for who does not see it
     Label operation;
     Label pita1, pita2, Label1, pita3, pita4, Label3, Label2;
     Label retour;

@@ -18,6 +18,8 @@ TEST(Reading, SignsAreSaidAsWords) {
     EXPECT_EQ(InWords("Erreur ! 12 - 5 = 7 !\rContinuez + vite."),
               "Erreur ! 12 moins 5 égale 7 ! Continuez plus vite.");
     EXPECT_EQ(InWords("Sachant que DO=3, RE=4 ..."), "Sachant que DO égale 3, RE égale 4 ...");
+    EXPECT_EQ(InWords("Bravo ! X = 24 donc X X 7 = 24 X 7"),
+              "Bravo ! X égale 24 donc X fois 7 égale 24 fois 7");
     EXPECT_EQ(InWords("donne-t-elle -3 ?"), "donne-t-elle -3 ?");
 }
 
@@ -40,9 +42,22 @@ TEST(Reading, APageIsReadFromTheTopWithEachAnswerInItsLine) {
     EXPECT_TRUE(table.at(1).starts_with("Table de 7 : 1 fois 7 égale 7 ; 2 fois 7 égale 14 ;"))
         << table.at(1);
     EXPECT_TRUE(table.at(1).ends_with("; 12 fois 7 égale 84"));
+    Apprendre& page = pupil.screens.apprendre;
+    pupil.Turn(page.letter_code.ui.fleche4, 'X');
+    pupil.Turn(page.missing_sign.ui.fleche5, 2);
+    const Names turned = Read(page.form);
+    EXPECT_EQ(std::ranges::count_if(turned,
+                                    [](const auto& item) { return item.starts_with("Réponse : X fois 7"); }),
+              1);
     pupil.Click(pupil.screens.apprendre.retour);
     pupil.Click(pupil.screens.depart.pytha);
-    EXPECT_EQ(Read(pupil.screens.pythagore.form).at(8), "8, dans la colonne");
+    const auto read = ReadPage(pupil.screens.pythagore.form);
+    EXPECT_EQ(read.at(8).name, "8, dans la colonne");
+    EXPECT_EQ(read.at(8).kind, ReadControl::Kind::kRowHeader);
+    const auto grid = std::ranges::find(read, ReadControl::Kind::kTable, &ReadControl::kind);
+    ASSERT_NE(grid, read.end());
+    EXPECT_NE(grid->name.find("; rangée de 8 : 0, 8, 16, 24, 32, 40, 48, 56, 64, 72, 80 ;"),
+              std::string::npos);
 }
 
 }  // namespace

@@ -17,6 +17,12 @@ QAccessible::Role RoleOf(ReadControl::Kind kind) {
             return QAccessible::Heading;
         case ReadControl::Kind::kPicture:
             return QAccessible::Graphic;
+        case ReadControl::Kind::kTable:
+            return QAccessible::Table;
+        case ReadControl::Kind::kRowHeader:
+            return QAccessible::RowHeader;
+        case ReadControl::Kind::kColumnHeader:
+            return QAccessible::ColumnHeader;
         case ReadControl::Kind::kToPress:
             return QAccessible::Button;
         case ReadControl::Kind::kToEnter:

@@ -29,6 +29,7 @@ QImage Scaled(const QImage& image, QSize size) {
 QImage ScaledPictures::AtSize(const QtPicture& picture, QSize size, QSize page) {
     const QImage* const kept = kept_.object(picture.image().cacheKey());
     if (kept && kept->size() == size) return *kept;
+    if (small_only_) return Scaled(picture.image(), size);
     QImage scaled = Scale(picture, size);
     Keep(picture, scaled, page);
     return scaled;

@@ -13,6 +13,8 @@ class ScaledPictures {
   public:
     // The picture in the format that is painted fastest; there is room for a page of this size.
     QImage AtSize(const QtPicture& picture, QSize size, QSize page);
+    // For a while, pictures are made of the small ones, at once, and not kept.
+    void set_small_only(bool small_only) { small_only_ = small_only; }
     // Scales a picture ahead, on whatever thread, and keeps one that was.
     static QImage Scale(const QtPicture& picture, QSize size);
     void Keep(const QtPicture& picture, const QImage& scaled, QSize page);
@@ -20,6 +22,7 @@ class ScaledPictures {
     bool HasRoomFor(QSize page) const;
 
   private:
+    bool small_only_ = false;
     QCache<qint64, QImage> kept_;  // by the picture's key; costs are bytes
 };
 

@@ -157,17 +157,20 @@ void Window::ScaleFirst() {
                  screens.apprendre.form.picture(), program_.stage().front()->picture()};
     std::erase(to_scale_, nullptr);
     const bool first = program_.stage().front()->picture() && program_.view().enlargement() > kWorthLarger;
-    if (!first || first_.joinable()) return;
-    first_ = std::jthread([this, picture = to_scale_.back(), size = PageSize()] {
-        first_page_ = ScaledPictures::Scale(AsQt(picture), size);
+    if (!first) return;
+    first_page_ = std::async(std::launch::async, [this, picture = to_scale_.back(), size = PageSize()] {
+        QImage page = ScaledPictures::Scale(AsQt(picture), size);
+        QMetaObject::invokeMethod(this, &Window::KeepFirst, Qt::QueuedConnection);
+        return page;
     });
+    pictures_.set_small_only(true);
 }
 
 void Window::KeepFirst() {
-    if (!first_.joinable()) return;
-    first_.join();
-    pictures_.Keep(AsQt(to_scale_.back()), std::exchange(first_page_, {}), PageSize());
+    pictures_.Keep(AsQt(to_scale_.back()), first_page_.get(), PageSize());
     to_scale_.pop_back();
+    pictures_.set_small_only(false);
+    update();
 }
 
 void Window::ScaleNext() {
@@ -191,7 +194,6 @@ void Window::PaintGround(QPainter& painter, const QRegion& region) const {
 }
 
 void Window::paintEvent(QPaintEvent* event) {
-    KeepFirst();
     TellSize();  // which changes with the screen's scale, too
     const PixelBox part = ToPixels(event->region().boundingRect());
     const QRect shown(part.left, part.top, part.width, part.height);
@@ -203,7 +205,8 @@ void Window::paintEvent(QPaintEvent* event) {
     painter.setClipRect(shown & page_box);
     QtCanvas canvas(painter, program_.view(), host_.fonts, pictures_);
     Follow(program_.Paint(canvas, part));
-    if (!to_scale_.empty() && program_.view().enlargement() > kWorthLarger) next_.start();
+    if (!to_scale_.empty() && !first_page_.valid() && program_.view().enlargement() > kWorthLarger)
+        next_.start();
 }
 
 QAccessibleInterface* Window::accessibleRoot() const {

@@ -3,8 +3,8 @@
 #include <QRasterWindow>
 #include <QSinglePointEvent>
 #include <QTimer>
+#include <future>
 #include <memory>
-#include <thread>
 
 #include "platform/qt/scaled_pictures.h"
 #include "shell/program.h"
@@ -49,7 +49,7 @@ class Window final : public QRasterWindow {
     void FollowScreen(const QRect& geometry);
     void PaintGround(QPainter& painter, const QRegion& region) const;
     // Enlarged pages need their larger pictures: the first one is read and scaled while the window comes up,
-    // the others one by one when there is nothing else to do.
+    // with the small picture until then, the others one by one when there is nothing else to do.
     void ScaleFirst();
     void KeepFirst();
     void ScaleNext();
@@ -62,8 +62,7 @@ class Window final : public QRasterWindow {
     Program& program_;
     QtHost& host_;
     QTimer timer_;
-    QImage first_page_;
-    std::jthread first_;  // makes it
+    std::future<QImage> first_page_;
     QTimer next_;
     std::vector<PicturePtr> to_scale_;  // the last one first
     ScaledPictures pictures_;

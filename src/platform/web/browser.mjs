@@ -25,13 +25,14 @@ const kFirstSounds = ["5", "3", "1", "2", "4", "6", "7", "8", "9", "10"];
 
 const kTooOld = "Ce navigateur est trop ancien pour Onze Tables. Mettez-le à jour, ou prenez-en un autre.";
 const kNotLoaded = "Onze Tables n'a pas pu être chargé. Vérifiez la connexion, puis rechargez la page.";
+const kSaveButton = "«\u00a0Enregistrer mes compteurs\u00a0»";
 const kNothingKept =
     "Ce navigateur ne garde rien : ce qui est compté ici sera perdu quand la page se fermera. " +
-    "« Enregistrer mes compteurs » en fait un fichier.";
+    `${kSaveButton} en fait un fichier.`;
 const kSecondTab =
     "Onze Tables est déjà ouvert dans un autre onglet : ce qui est compté dans celui-ci ne sera pas gardé.";
 const kReplaced = "Ce qui a été compté depuis le début de la visite sera perdu. Continuer ?";
-const kNotStored = "Les compteurs n'ont pas pu être gardés. « Enregistrer mes compteurs » en fait un fichier.";
+const kNotStored = `Les compteurs n'ont pas pu être gardés. ${kSaveButton} en fait un fichier.`;
 
 const kIsSite = !document.getElementById("onze-tables.wasm");  // and not one file
 
@@ -90,8 +91,8 @@ let compiled = null;
 async function run() {
     readStored();
     await makeProgram(compiled, browser, fail);
-    program.resize(canvas.width, canvas.height);
     program.start();
+    program?.resize(canvas.width, canvas.height);
 }
 
 async function restart() {

@@ -6,11 +6,13 @@ import { canvas } from "./canvas.mjs";
 
 const layer = document.getElementById("lecture");
 const announcements = document.getElementById("annonces");
-const kKinds = ["p", "h2", "img", "button", "spinbutton"];  // of ReadControl::Kind
+// Of ReadControl::Kind. A header of a table is what it does: a button.
+const kKinds = ["p", "h2", "img", "img", "button", "button", "button", "spinbutton"];
 
-let elements = [];  // in the order of reading
-let before = new Map();
-let following = false;  // the program's focus, which needs no telling
+let elements = [];       // in the order of reading
+let before = new Map();  // those there were, by their controls
+let count = 0;           // of those that come
+let following = false;   // the program's focus, which needs no telling
 
 function make(kind) {
     const element = document.createElement(["p", "h2", "button"].includes(kind) ? kind : "div");
@@ -54,12 +56,9 @@ function clearBehind(count) {
     elements.length = count;
 }
 
-let count = 0;
-
 export const reading = {
     readControls(many) {
         before = new Map(elements.map((element) => [element.dataset.control, element]));
-        for (const [key, element] of before) element.dataset.control = key;
         count = many;
         elements = [];
         if (count === 0) clearBehind(0);

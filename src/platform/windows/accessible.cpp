@@ -31,6 +31,12 @@ LONG RoleOf(ReadControl::Kind kind) {
     switch (kind) {
         case ReadControl::Kind::kPicture:
             return ROLE_SYSTEM_GRAPHIC;
+        case ReadControl::Kind::kTable:
+            return ROLE_SYSTEM_TABLE;
+        case ReadControl::Kind::kRowHeader:
+            return ROLE_SYSTEM_ROWHEADER;
+        case ReadControl::Kind::kColumnHeader:
+            return ROLE_SYSTEM_COLUMNHEADER;
         case ReadControl::Kind::kToPress:
             return ROLE_SYSTEM_PUSHBUTTON;
         case ReadControl::Kind::kToEnter:
