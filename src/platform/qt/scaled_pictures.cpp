@@ -14,6 +14,12 @@ qsizetype BytesOf(QSize size) {
     return kBytesPerPixel * size.width() * size.height();
 }
 
+// Half as much as a page for the small pictures on it.
+qsizetype MostBytes(QSize page) {
+    const qsizetype half = BytesOf(page) / 2;
+    return std::max(3 * half, std::min((2 * kPages + 1) * half, kMostBytes));
+}
+
 // The two formats that are painted fastest.
 QImage::Format FastFormat(const QImage& image) {
     return image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
@@ -30,25 +36,15 @@ QImage ScaledPictures::AtSize(const QtPicture& picture, QSize size, QSize page) 
     const QImage* const kept = kept_.object(picture.image().cacheKey());
     if (kept && kept->size() == size) return *kept;
     if (small_only_) return Scaled(picture.image(), size);
-    QImage scaled = Scale(picture, size);
-    Keep(picture, scaled, page);
+    const bool enlarged = size.width() > kWorthLarger * picture.WidthInPixels();
+    const QImage scaled = Scaled(enlarged ? picture.ReadLargestImage() : picture.image(), size);
+    kept_.setMaxCost(MostBytes(page));
+    kept_.insert(picture.image().cacheKey(), new QImage(scaled), scaled.sizeInBytes());
     return scaled;
 }
 
-QImage ScaledPictures::Scale(const QtPicture& picture, QSize size) {
-    const bool enlarged = size.width() > kWorthLarger * picture.WidthInPixels();
-    return Scaled(enlarged ? picture.ReadLargestImage() : picture.image(), size);
-}
-
-void ScaledPictures::Keep(const QtPicture& picture, const QImage& scaled, QSize page) {
-    // Half as much as a page for the small pictures on it.
-    const qsizetype half = BytesOf(page) / 2;
-    kept_.setMaxCost(std::max(3 * half, std::min((2 * kPages + 1) * half, kMostBytes)));
-    kept_.insert(picture.image().cacheKey(), new QImage(scaled), scaled.sizeInBytes());
-}
-
 bool ScaledPictures::HasRoomFor(QSize page) const {
-    return kept_.totalCost() + BytesOf(page) * 3 / 2 <= kept_.maxCost();
+    return kept_.totalCost() + BytesOf(page) * 3 / 2 <= MostBytes(page);
 }
 
 }  // namespace onze

@@ -13,17 +13,14 @@ class ScaledPictures {
   public:
     // The picture in the format that is painted fastest; there is room for a page of this size.
     QImage AtSize(const QtPicture& picture, QSize size, QSize page);
-    // For a while, pictures are made of the small ones, at once, and not kept.
+    // For a while, those that are not kept are made of small pictures, which is quick.
     void set_small_only(bool small_only) { small_only_ = small_only; }
-    // Scales a picture ahead, on whatever thread, and keeps one that was.
-    static QImage Scale(const QtPicture& picture, QSize size);
-    void Keep(const QtPicture& picture, const QImage& scaled, QSize page);
     // Whether one more page of this size drives no other out.
     bool HasRoomFor(QSize page) const;
 
   private:
-    bool small_only_ = false;
     QCache<qint64, QImage> kept_;  // by the picture's key; costs are bytes
+    bool small_only_ = false;
 };
 
 }  // namespace onze

@@ -64,7 +64,7 @@ void Window::Present() {
         showNormal();
     }
     TellSize();
-    ScaleFirst();
+    QueuePages();
 }
 
 void Window::FollowScreen(const QRect& geometry) {
@@ -149,39 +149,29 @@ QSize Window::PageSize() const {
     return {page.width, page.height};
 }
 
-void Window::ScaleFirst() {
-    if (!to_scale_.empty() || !program_.stage().front()) return;
+void Window::QueuePages() {
+    const Form* const first = program_.stage().front();
+    if (!to_scale_.empty() || !first) return;
     const Screens& screens = program_.screens();
     to_scale_ = {screens.bilan.form.picture(),     screens.pythagore.form.picture(),
                  screens.leçon.form.picture(),     screens.exercices.form.picture(),
-                 screens.apprendre.form.picture(), program_.stage().front()->picture()};
+                 screens.apprendre.form.picture(), first->picture()};
     std::erase(to_scale_, nullptr);
-    const bool first = program_.stage().front()->picture() && program_.view().enlargement() > kWorthLarger;
-    if (!first) return;
-    first_page_ = std::async(std::launch::async, [this, picture = to_scale_.back(), size = PageSize()] {
-        QImage page = ScaledPictures::Scale(AsQt(picture), size);
-        QMetaObject::invokeMethod(this, &Window::KeepFirst, Qt::QueuedConnection);
-        return page;
-    });
-    pictures_.set_small_only(true);
-}
-
-void Window::KeepFirst() {
-    pictures_.Keep(AsQt(to_scale_.back()), first_page_.get(), PageSize());
-    to_scale_.pop_back();
-    pictures_.set_small_only(false);
-    update();
+    pictures_.set_small_only(program_.view().enlargement() > kWorthLarger);
 }
 
 void Window::ScaleNext() {
+    pictures_.set_small_only(false);
     if (to_scale_.empty() || !pictures_.HasRoomFor(PageSize())) {
         program_.screens().divers.anim.picture->ReadLarger();
         next_.stop();
         to_scale_.clear();
         return;
     }
-    pictures_.AtSize(AsQt(to_scale_.back()), PageSize(), PageSize());
+    const PicturePtr page = to_scale_.back();
     to_scale_.pop_back();
+    pictures_.AtSize(AsQt(page), PageSize(), PageSize());
+    if (page == program_.stage().front()->picture()) update();
 }
 
 void Window::PaintGround(QPainter& painter, const QRegion& region) const {
@@ -205,8 +195,7 @@ void Window::paintEvent(QPaintEvent* event) {
     painter.setClipRect(shown & page_box);
     QtCanvas canvas(painter, program_.view(), host_.fonts, pictures_);
     Follow(program_.Paint(canvas, part));
-    if (!to_scale_.empty() && !first_page_.valid() && program_.view().enlargement() > kWorthLarger)
-        next_.start();
+    if (!to_scale_.empty() && program_.view().enlargement() > kWorthLarger) next_.start();
 }
 
 QAccessibleInterface* Window::accessibleRoot() const {

@@ -3,7 +3,6 @@
 #include <QRasterWindow>
 #include <QSinglePointEvent>
 #include <QTimer>
-#include <future>
 #include <memory>
 
 #include "platform/qt/scaled_pictures.h"
@@ -48,10 +47,9 @@ class Window final : public QRasterWindow {
     void TellSize();
     void FollowScreen(const QRect& geometry);
     void PaintGround(QPainter& painter, const QRegion& region) const;
-    // Enlarged pages need their larger pictures: the first one is read and scaled while the window comes up,
-    // with the small picture until then, the others one by one when there is nothing else to do.
-    void ScaleFirst();
-    void KeepFirst();
+    // Enlarged pages need their larger pictures, which are read and scaled one by one when there is nothing
+    // else to do; until then the first page is made of its small one, and so is not waited for.
+    void QueuePages();
     void ScaleNext();
     QSize PageSize() const;
 
@@ -62,7 +60,6 @@ class Window final : public QRasterWindow {
     Program& program_;
     QtHost& host_;
     QTimer timer_;
-    std::future<QImage> first_page_;
     QTimer next_;
     std::vector<PicturePtr> to_scale_;  // the last one first
     ScaledPictures pictures_;

@@ -1,5 +1,7 @@
 #include "platform/web/accessible.h"
 
+#include <algorithm>
+
 #include "forms/up_down.h"
 #include "platform/web/browser.h"
 
@@ -37,6 +39,18 @@ void AccessiblePage::Announce(const std::vector<Control*>& messages) const {
     if (!text.empty()) browser::Say(text.data(), text.size());
 }
 
+void AccessiblePage::Show(std::vector<Element> elements) {
+    const auto same = [](const Element& a, const Element& b) {
+        return a.read.control == b.read.control && a.read.kind == b.read.kind;
+    };
+    const bool all = !std::equal(elements.begin(), elements.end(), shown_.begin(), shown_.end(), same);
+    if (all) browser::ReadControls(elements.size());
+    for (std::size_t i = 0; i < elements.size(); ++i) {
+        if (all || elements[i] != shown_[i]) Send(i, elements[i]);
+    }
+    shown_ = std::move(elements);
+}
+
 void AccessiblePage::Tell(const Reaction& reaction) {
     const Stage& stage = program_.stage();
     if (!stage.front() || (reaction.repaint.empty() && reaction.say.empty())) return;
@@ -47,14 +61,7 @@ void AccessiblePage::Tell(const Reaction& reaction) {
         if (read.control == stage.focused()) focused = static_cast<int>(elements.size());
         elements.push_back(ElementOf(read));
     }
-    if (elements != shown_) {
-        browser::ReadControls(elements.size());
-        for (std::size_t i = 0; i < elements.size(); ++i) Send(i, elements[i]);
-        shown_ = std::move(elements);
-    } else if (focused == focused_ && news.messages.empty()) {
-        return;
-    }
-    focused_ = focused;
+    Show(std::move(elements));
     browser::FocusOn(focused);
     Announce(news.messages);
 }

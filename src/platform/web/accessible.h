@@ -32,13 +32,14 @@ class AccessiblePage {
     };
 
     Element ElementOf(const ReadControl& read) const;
+    // Sends what is new of the elements, or all where others are there than before.
+    void Show(std::vector<Element> elements);
     static void Send(std::size_t index, const Element& element);
     void Announce(const std::vector<Control*>& messages) const;
 
     Program& program_;
     ReadingWatch watch_;
     std::vector<Element> shown_;
-    int focused_ = -1;
 };
 
 }  // namespace onze

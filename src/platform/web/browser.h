@@ -58,7 +58,8 @@ ONZE_BROWSER(printPage) void PrintPage();
 ONZE_BROWSER(end) void End();
 ONZE_BROWSER(fail) void Fail(const char* text, std::size_t length);
 
-// What a screen reader finds: first the number of controls, then each of them, in the order of reading.
+// What a screen reader finds, in the order of reading: where other controls are there, first their number and
+// then each of them; else those that changed.
 ONZE_BROWSER(readControls) void ReadControls(std::size_t count);
 ONZE_BROWSER(readControl)
 void ReadControl(std::size_t index, const void* control, int kind, bool stop, const char* name,

@@ -31,7 +31,7 @@ const kNothingKept =
     `${kSaveButton} en fait un fichier.`;
 const kSecondTab =
     "Onze Tables est déjà ouvert dans un autre onglet : ce qui est compté dans celui-ci ne sera pas gardé.";
-const kReplaced = "Ce qui a été compté depuis le début de la visite sera perdu. Continuer ?";
+const kReplaced = "Les compteurs d'ici seront remplacés par ceux du fichier. Continuer ?";
 const kNotStored = `Les compteurs n'ont pas pu être gardés. ${kSaveButton} en fait un fichier.`;
 
 const kIsSite = !document.getElementById("onze-tables.wasm");  // and not one file
@@ -104,7 +104,8 @@ async function restart() {
 }
 
 async function takeUp(bytes) {
-    if (program?.hasCounted() && !confirm(kReplaced)) return;
+    const some = program?.hasCounted() || counters.keptSize() >= 0;
+    if (some && !confirm(kReplaced)) return;
     endProgram();
     keepBytes(bytes);
     await restart();

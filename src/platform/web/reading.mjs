@@ -65,7 +65,8 @@ export const reading = {
     },
     readControl(index, control, kind, stop, at, size, left, top, width, height) {
         const key = `${control} ${kKinds[kind]}`;
-        const element = before.get(key) ?? make(kKinds[kind]);
+        const there = elements[index]?.dataset.control === key;
+        const element = there ? elements[index] : (before.get(key) ?? make(kKinds[kind]));
         element.dataset.control = key;
         name(element, kKinds[kind], textAt(at, size));
         offer(element, kKinds[kind], stop);
