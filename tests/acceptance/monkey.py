@@ -8,7 +8,7 @@ import page as at
 SEED = 11
 KEYS = "Tab shift+Tab Left Right Up Down Return Escape space Home End Delete BACK_SPACE PAGE_UP PAGE_DOWN F1".split()
 CHARACTERS = [*"0123456789ADERSTXZadx+-*&!~"]
-STEPS = 20  # between two looks at how things stand
+STEPS = 10  # between two looks at how things stand
 
 
 class Monkey:
@@ -20,6 +20,7 @@ class Monkey:
     def play(self, minutes):
         end = time.monotonic() + 60 * minutes
         while time.monotonic() < end:
+            _, self._screen = self._browser.page.nearest()
             for _ in range(STEPS):
                 self._random.choice(self._things)()
             assert not self._browser.told(), self._browser.told()
@@ -27,9 +28,9 @@ class Monkey:
                 self._browser.begin_again()
 
     def _place(self):
-        """Something of some page, or anywhere."""
-        screen = self._random.choice(at.SCREENS)
-        boxes = [*at.clickable(screen), (*at.BACK, 1, 1), (*at.BACK, 1, 1), (0, 0, at.WIDTH, at.HEIGHT)]
+        """Something of the page shown last, most probably, or of another one, or anywhere."""
+        screen = self._random.choice([*4 * [self._screen], *at.SCREENS])
+        boxes = [*at.clickable(screen), (*at.BACK, 1, 1), (0, 0, at.WIDTH, at.HEIGHT)]
         left, top, width, height = self._random.choice(boxes)
         return self._browser.page.on_desk((left + self._random.random() * width, top + self._random.random() * height))
 

@@ -126,9 +126,13 @@ class Page:
         """What a part of the page looks like."""
         return self._desk.look(self.on_desk(box), box[2:])
 
+    def nearest(self):
+        """The mean difference of what is seen from the most similar screen, and which that is."""
+        return nearest(self._desk.look(self.box, SMALL))
+
     def wait_for(self, screen):
         def shown():
-            self._difference, self._nearest = nearest(self._desk.look(self.box, SMALL))
+            self._difference, self._nearest = self.nearest()
             return self._nearest == screen and self._difference < ALIKE
 
         if not wait_until(lambda: shown() or self._has_ended()) or self._has_ended():
