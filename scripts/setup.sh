@@ -8,6 +8,7 @@ web_packages="emscripten fonts-liberation2 librsvg2-bin python3-brotli python3-f
 wine_packages="fonts-wine wine wine64"
 display_packages="imagemagick python3 strace xdotool xvfb"
 reader_packages="at-spi2-core dbus gir1.2-atspi-2.0 python3-gi"
+browser_packages="chromium chromium-driver firefox-esr python3-selenium webkit2gtk-driver"
 clang_packages="clang clang-format clang-tidy libclang-rt-14-dev"
 packaging_packages="appstream build-essential debhelper desktop-file-utils fakeroot imagemagick librsvg2-bin lintian nsis zip"
 art_packages="librsvg2-bin pngquant python3 sox"
@@ -48,4 +49,16 @@ build() {
     echo "Building $preset"
     cmake --preset "$preset" --no-warn-unused-cli >/dev/null
     cmake --build --preset "$preset" "${options[@]}"
+}
+
+# What npm has and Debian has not, in the versions of tests/acceptance/package-lock.json: build/npm/node_modules.
+need_from_npm() {
+    command -v npm >/dev/null || need npm
+    mkdir -p build/npm
+    if [[ -e build/npm/node_modules/.package-lock.json ]] &&
+        cmp -s {tests/acceptance,build/npm}/package-lock.json; then
+        return
+    fi
+    cp tests/acceptance/package{,-lock}.json build/npm
+    npm ci --prefix build/npm --ignore-scripts --no-audit --no-fund --silent
 }

@@ -102,6 +102,10 @@ class Desk:
         """Whether any sound has reached the sound device."""
         return self.sounds.exists() and any(self.sounds.read_bytes())
 
+    def view(self):
+        """Where the page lies, and how far it is scaled."""
+        return 0, 0, self.SCALE
+
     def click(self, *places):
         words = []
         for x, y in places:

@@ -98,10 +98,13 @@ class Page:
 
     def __init__(self, desk, has_ended):
         self._desk, self._has_ended = desk, has_ended
-        self.box = self._on_desk((0, 0, WIDTH, HEIGHT))
+
+    @property
+    def box(self):
+        return self.on_desk((0, 0, WIDTH, HEIGHT))
 
     def click(self, *places):
-        self._desk.click(*map(self._on_desk, places))
+        self._desk.click(*map(self.on_desk, places))
 
     def double_click(self, *places):
         self.click(*(place for place in places for _ in range(2)))
@@ -121,7 +124,7 @@ class Page:
 
     def look(self, box):
         """What a part of the page looks like."""
-        return self._desk.look(self._on_desk(box), box[2:])
+        return self._desk.look(self.on_desk(box), box[2:])
 
     def wait_for(self, screen):
         def shown():
@@ -131,5 +134,6 @@ class Page:
         if not wait_until(lambda: shown() or self._has_ended()) or self._has_ended():
             raise AssertionError(f"screen {screen} is not shown, but rather {self._nearest}")
 
-    def _on_desk(self, numbers):
-        return tuple(round(number * self._desk.SCALE) for number in numbers)
+    def on_desk(self, numbers):
+        left, top, scale = self._desk.view()
+        return tuple(round(first + number * scale) for first, number in zip((left, top, 0, 0), numbers))

@@ -9,7 +9,7 @@ import { endProgram, makeProgram, program, textAt, write, writeText } from "./pr
 import { decodeAhead, findPicture, followPictures, pictureOf, scaleAhead } from "./pictures.mjs";
 import { bytesOf, fileNow, load } from "./files.mjs";
 import { canvas, drawing, followSize, page, placePage, repaint, repaintAll, view } from "./canvas.mjs";
-import { listenForTouch, sounds } from "./sounds.mjs";
+import { listenForTouch, prepareSound, sounds } from "./sounds.mjs";
 import { followReader, reading } from "./reading.mjs";
 import { followPrinting, printPage } from "./paper.mjs";
 import { listen } from "./input.mjs";
@@ -129,6 +129,7 @@ async function loadProgram() {
 // without a network.
 async function loadTheRest() {
     await Promise.all([...kAtStart.map(decodeAhead), ...kFirstSounds.map(load)]);
+    prepareSound();
     for (const name of page.width > 640 * kWorthLarger ? kLarger : []) {
         await load(name);
         scaleAhead(name, page.width, page.height);

@@ -7,15 +7,15 @@ let audio = null;
 let source = null;
 let wanted = 0;  // counts what was asked for, so that only the last is heard
 
-// Browsers let a page be heard once it was touched.
-function wake() {
-    if (!Context) return;
-    audio ??= new Context();
+// Takes long in some browsers, the first time: better before a touch than after it.
+export function prepareSound() {
+    if (Context) audio ??= new Context();
 }
 
+// Browsers let a page be heard once it was touched.
 export function listenForTouch() {
     for (const kind of ["pointerdown", "pointerup", "keydown", "click"])
-        window.addEventListener(kind, wake, { capture: true });
+        window.addEventListener(kind, prepareSound, { capture: true });
 }
 
 function stop() {
