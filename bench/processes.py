@@ -35,6 +35,25 @@ def named(name, part_of_environment):
     raise LookupError(name)
 
 
+def below(ancestor, *words):
+    """The processes that descend from another and have one of these words in their command line."""
+    parents = {int(folder.name): _parent(folder) for folder in PROCESSES.glob("[0-9]*")}
+    found = []
+    for pid, parent in parents.items():
+        while parent not in (ancestor, 0, None):
+            parent = parents.get(parent)
+        if parent == ancestor and any(word.encode() in (PROCESSES / str(pid) / "cmdline").read_bytes() for word in words):
+            found.append(pid)
+    return found
+
+
+def _parent(folder):
+    try:
+        return int((folder / "stat").read_text().rpartition(")")[2].split()[1])
+    except OSError:
+        return None  # it has ended meanwhile
+
+
 def drop_page_cache():
     os.sync()
     Path("/proc/sys/vm/drop_caches").write_text("3")

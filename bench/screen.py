@@ -17,15 +17,15 @@ WORDS_OF_HEADER = 25
 
 
 class Screen:
-    def __init__(self, file, display):
+    def __init__(self, file, display, width=WIDTH, height=HEIGHT):
         with open(file, "rb") as memory:
             self._memory = mmap.mmap(memory.fileno(), 0, access=mmap.ACCESS_READ)
         header = struct.unpack_from(f">{WORDS_OF_HEADER}I", self._memory)
         header_size, line, colours = header[0], header[12], header[19]
         first = header_size + 12 * colours
-        assert line == 4 * WIDTH
-        pixels = numpy.frombuffer(self._memory, "<u4", WIDTH * HEIGHT, first)
-        self._pixels = pixels.reshape(HEIGHT, WIDTH)
+        assert line == 4 * width
+        pixels = numpy.frombuffer(self._memory, "<u4", width * height, first)
+        self._pixels = pixels.reshape(height, width)
         self._display = Display(display)
 
     def seen(self):

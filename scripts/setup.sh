@@ -12,7 +12,7 @@ browser_packages="chromium chromium-driver firefox-esr python3-selenium webkit2g
 clang_packages="clang clang-format clang-tidy libclang-rt-14-dev"
 packaging_packages="appstream build-essential debhelper desktop-file-utils fakeroot imagemagick librsvg2-bin lintian nsis zip"
 art_packages="librsvg2-bin pngquant python3 sox"
-bench_packages="kbruch python3-numpy python3-xlib tuxmath"
+bench_packages="jsxgraph kbruch python3-numpy python3-xlib tuxmath"
 
 # Installs what is missing of the named packages. Where ONZE_NO_INSTALL=1 forbids it, or the user may not, it names the
 # line that does and ends; on a system without Debian's tools it only tells what is needed.

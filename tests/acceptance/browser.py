@@ -40,12 +40,14 @@ return window.troubles;
 """
 
 
-def chromium(profile, prefs={}, **settings):
+HEADLESS = "--headless=new", "--window-size=1024,768"
+
+
+def chromium(profile, window=HEADLESS, prefs={}, **settings):
     options = webdriver.ChromeOptions()
     options.binary_location = "/usr/bin/chromium"
     options.set_capability("goog:loggingPrefs", {"browser": "ALL"})
-    arguments = ["--headless=new", "--window-size=1024,768", f"--user-data-dir={profile}", *["--no-sandbox"] * ROOT]
-    for argument in arguments:
+    for argument in (*window, f"--user-data-dir={profile}", *["--no-sandbox"] * ROOT):
         options.add_argument(argument)
     settings["prefs"] = {"download.default_directory": str(profile / DOWNLOADS), **prefs}
     for name, value in settings.items():
