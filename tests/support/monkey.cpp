@@ -2,9 +2,21 @@
 
 #include <algorithm>
 
-#include "support/writing_canvas.h"
-
 namespace onze {
+
+namespace {
+
+class BlankPaper final : public Canvas {
+  public:
+    void DrawPicture(const Picture&, Point) override {}
+    void FillBox(const Rect&, Color, int) override {}
+    void FrameBox(const Rect&, Color, int) override {}
+    void FillPolygon(std::span<const Point>, Color) override {}
+    void DrawLine(Point, Point, int, Color) override {}
+    void DrawTextLine(Point, std::string_view, const Font&, Color) override {}
+};
+
+}  // namespace
 
 void Monkey::Act(Program& program) {
     if (random_.Draw(3) == 0) return Press(program);
@@ -38,7 +50,7 @@ void Monkey::Press(Program& program) {
     }
     press.repeated = random_.Draw(8) == 0;
     if (!program.Take(event::KeyPressed{press}).print) return;
-    WritingCanvas paper;
+    BlankPaper paper;
     program.PaintOnPaper(paper);
 }
 

@@ -37,7 +37,7 @@ QImage ScaledPictures::AtSize(const QtPicture& picture, QSize size, QSize page) 
     if (kept && kept->size() == size) return *kept;
     if (small_only_) return Scaled(picture.image(), size);
     const bool enlarged = size.width() > kWorthLarger * picture.WidthInPixels();
-    const QImage scaled = Scaled(enlarged ? picture.ReadLargestImage() : picture.image(), size);
+    QImage scaled = Scaled(enlarged ? picture.ReadLargestImage() : picture.image(), size);
     kept_.setMaxCost(MostBytes(page));
     kept_.insert(picture.image().cacheKey(), new QImage(scaled), scaled.sizeInBytes());
     return scaled;
