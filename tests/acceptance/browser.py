@@ -66,7 +66,7 @@ def firefox(profile):
 
 
 def webkit(_):
-    (mini_browser,) = Path("/usr/lib").glob("*/webkit2gtk-4.*/MiniBrowser")
+    *_, mini_browser = sorted(Path("/usr/lib").glob("*/webkit2gtk-4.*/MiniBrowser"))
     options = webdriver.WebKitGTKOptions()
     options.binary_location = str(mini_browser)
     options.add_argument("--automation")
