@@ -5,6 +5,7 @@ a session bus of its own.
 """
 
 import operator
+import os
 import re
 import sys
 
@@ -13,6 +14,8 @@ import gi
 from installed import Installed, main
 from waiting import wait_until
 
+# A display may hold the address of another session's bus, which would be taken for this one's.
+os.environ.pop("DISPLAY", None)
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
