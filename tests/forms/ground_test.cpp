@@ -20,6 +20,7 @@ TEST(Ground, IsThePaperOfThePageWithItsRulings) {
     EXPECT_EQ(across.size(), 20U);
     EXPECT_EQ(across.at(1) - across.at(0), 24);
     EXPECT_EQ(down, (std::vector<int>{8, 32, 56}));
+    EXPECT_EQ(GroundIn(view, {720, 0, 80, 480}).size(), 1U + 20 + 3) << "beyond the page";
     EXPECT_EQ(GroundIn(view, {10, 1, 20, 22}).size(), 1U) << "between the rulings";
 }
 
