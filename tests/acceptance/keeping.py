@@ -220,6 +220,27 @@ class Keeping(InBrowser):
         foreign = "https://exemple.invalid/"
         self.assertEqual(self.browser.driver.execute_async_script(FOREIGN, foreign), foreign)
 
+    def test_readers_have_all_that_it_takes(self):
+        """Only elements, their names and values, and what is announced."""
+        self.start()
+        self.press_element("Jouons avec la Table de 7")
+        heading = self.browser.run("return document.querySelector('#lecture h2').textContent")
+        self.assertEqual(heading, "Jouons avec la Table de 7")
+        answer = self.browser.driver.find_element("css selector", "#lecture [role=spinbutton]")
+        self.assertTrue(answer.get_attribute("aria-label").endswith("à trouver"))
+        self.assertEqual(self.browser.driver.switch_to.active_element, answer)
+        self.browser.press("0")
+        self.assertTrue(wait_until(lambda: answer.get_attribute("aria-valuetext") == "0"))
+        self.assertEqual([answer.get_attribute("aria-value" + each) for each in ("now", "min", "max")], ["0", "0", "50"])
+        self.browser.run("arguments[0].click()", answer)
+        self.assertIn("Cliquez sur Continuer", self.browser.run("return document.getElementById('annonces').textContent"))
+        self.assertEqual(self.browser.driver.switch_to.active_element.get_attribute("aria-label"), "Continuer")
+
+    def press_element(self, name):
+        elements = self.browser.driver.find_elements("css selector", "#lecture button")
+        (found,) = [each for each in elements if each.get_attribute("aria-label") == name]
+        self.browser.run("arguments[0].focus(); arguments[0].click()", found)
+
     def test_every_page_is_accessible(self):
         program = self.start()
         self.check_accessible(at.START)
