@@ -239,7 +239,9 @@ class Keeping(InBrowser):
     def press_element(self, name):
         elements = self.browser.driver.find_elements("css selector", "#lecture button")
         (found,) = [each for each in elements if each.get_attribute("aria-label") == name]
-        self.browser.run("arguments[0].focus(); arguments[0].click()", found)
+        self.browser.run("arguments[0].focus()", found)
+        self.browser.press("Return")
+        self.assertTrue(wait_until(lambda: self.browser.run("return !arguments[0].isConnected", found)))
 
     def test_every_page_is_accessible(self):
         program = self.start()
