@@ -64,6 +64,14 @@ class Canvas {
     virtual void DrawTextLine(Point top_left, std::string_view line, const Font& font, Color color) = 0;
 };
 
+// The box that an upright or level line of this width covers when it runs along the middle of its pixels,
+// ends included.
+inline Rect BoxOfLine(Point from, Point to, int width) {
+    const int before = (width - 1_px) / 2;
+    const Rect start{from.x - before, from.y - before, width, width};
+    return start.United({to.x - before, to.y - before, width, width});
+}
+
 // A filled box with a darker edge at its foot, like a key to press.
 inline void FillKey(Canvas& canvas, const Rect& box, Color fill, Color foot, int radius) {
     canvas.FillBox(box, foot, radius);

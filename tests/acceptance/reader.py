@@ -1,7 +1,7 @@
 """reader.py PROGRAM: answers a question of every exercise as who hears the program does.
 
 All that it knows are the roles, names, values and events that the system has for screen readers (AT-SPI). It is run on
-a session bus of its own.
+a message bus of its own.
 """
 
 import operator
@@ -14,7 +14,7 @@ import gi
 from installed import Installed, main
 from waiting import wait_until
 
-# A display may hold the address of another session's bus, which would be taken for this one's.
+# A display may hold the address of another bus, which would be taken for this one.
 os.environ.pop("DISPLAY", None)
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402

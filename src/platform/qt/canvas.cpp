@@ -22,13 +22,6 @@ QRect ToQt(const PixelBox& box) {
     return {box.left, box.top, box.width, box.height};
 }
 
-// The box that a line of this width covers when it runs along the middle of its pixels, ends included.
-Rect Covered(Point from, Point to, int width) {
-    const int before = (width - 1_px) / 2;
-    const Rect start{from.x - before, from.y - before, width, width};
-    return start.United({to.x - before, to.y - before, width, width});
-}
-
 }  // namespace
 
 void QtCanvas::DrawPicture(const Picture& picture, Point top_left) {
@@ -76,7 +69,7 @@ void QtCanvas::FillPolygon(std::span<const Point> corners, Color color) {
 
 void QtCanvas::DrawLine(Point from, Point to, int width, Color color) {
     if (from.x == to.x || from.y == to.y) {
-        FillBox(Covered(from, to, width), color, 0);
+        FillBox(BoxOfLine(from, to, width), color, 0);
         return;
     }
     const QPointF middle = QPointF(0.5, 0.5) * (1_px * view_.scale());

@@ -14,13 +14,6 @@ int NumberOf(Color color) {
     return color.red << 16 | color.green << 8 | color.blue;
 }
 
-// The box that a line of this width covers when it runs along the middle of its pixels, ends included.
-Rect Covered(Point from, Point to, int width) {
-    const int before = (width - 1_px) / 2;
-    const Rect start{from.x - before, from.y - before, width, width};
-    return start.United({to.x - before, to.y - before, width, width});
-}
-
 }  // namespace
 
 void FillPixels(const PixelBox& box, Color color) {
@@ -60,7 +53,7 @@ void WebCanvas::FillPolygon(std::span<const Point> corners, Color color) {
 
 void WebCanvas::DrawLine(Point from, Point to, int width, Color color) {
     if (from.x == to.x || from.y == to.y) {
-        FillBox(Covered(from, to, width), color, 0);
+        FillBox(BoxOfLine(from, to, width), color, 0);
         return;
     }
     const double middle = 1_px * view_.scale() / 2;

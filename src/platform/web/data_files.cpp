@@ -4,20 +4,26 @@
 
 namespace onze {
 
-std::optional<std::vector<std::byte>> SiteFiles::Read(std::string_view name) {
-    const int size = browser::FileSize(name.data(), name.size());
+namespace {
+
+// So many bytes, as something writes them; nothing where there are less than none.
+template <class Write>
+std::optional<std::vector<std::byte>> Filled(int size, Write write) {
     if (size < 0) return std::nullopt;
     std::vector<std::byte> bytes(static_cast<std::size_t>(size));
-    browser::ReadFile(name.data(), name.size(), bytes.data());
+    write(bytes.data());
     return bytes;
 }
 
+}  // namespace
+
+std::optional<std::vector<std::byte>> SiteFiles::Read(std::string_view name) {
+    return Filled(browser::FileSize(name.data(), name.size()),
+                  [name](std::byte* into) { browser::ReadFile(name.data(), name.size(), into); });
+}
+
 std::optional<std::vector<std::byte>> KeptFile::Read(std::string_view) {
-    const int size = browser::KeptSize();
-    if (size < 0) return std::nullopt;
-    std::vector<std::byte> bytes(static_cast<std::size_t>(size));
-    browser::ReadKept(bytes.data());
-    return bytes;
+    return Filled(browser::KeptSize(), [](std::byte* into) { browser::ReadKept(into); });
 }
 
 bool KeptFile::Replace(std::string_view, std::span<const std::byte> bytes) {

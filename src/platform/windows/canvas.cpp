@@ -42,13 +42,6 @@ void AddRoundedBox(Gdiplus::GraphicsPath& path, const RECT& box, REAL radius) {
     path.CloseFigure();
 }
 
-// The box of a line that runs along the middle of its pixels, ends included.
-Rect Covered(Point from, Point to, int width) {
-    const int before = (width - 1_px) / 2;
-    const Rect start{from.x - before, from.y - before, width, width};
-    return start.United({to.x - before, to.y - before, width, width});
-}
-
 }  // namespace
 
 RECT GdiCanvas::ToPixels(const Rect& box) const {
@@ -104,7 +97,7 @@ void GdiCanvas::FillPolygon(std::span<const Point> corners, Color color) {
 
 void GdiCanvas::DrawLine(Point from, Point to, int width, Color color) {
     if (from.x == to.x || from.y == to.y) {
-        FillBox(Covered(from, to, width), color, 0);
+        FillBox(BoxOfLine(from, to, width), color, 0);
         return;
     }
     const Gdiplus::Pen pen(ToGdiPlus(color), static_cast<REAL>(width * view_.scale()));

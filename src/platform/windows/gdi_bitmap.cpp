@@ -6,14 +6,9 @@
 namespace onze {
 
 GdiBitmap::GdiBitmap(int width, int height) : width_(width), height_(height) {
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof(info.bmiHeader);
-    info.bmiHeader.biWidth = width;
-    info.bmiHeader.biHeight = -height;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
+    const BITMAPINFO layout = info();
     dc_ = CreateCompatibleDC(nullptr);
-    bitmap_ = CreateDIBSection(dc_, &info, DIB_RGB_COLORS, &pixels_, nullptr, 0);
+    bitmap_ = CreateDIBSection(dc_, &layout, DIB_RGB_COLORS, &pixels_, nullptr, 0);
     if (!bitmap_) {
         DeleteDC(dc_);
         throw std::bad_alloc();
@@ -25,6 +20,16 @@ GdiBitmap::~GdiBitmap() {
     SelectObject(dc_, former_bitmap_);
     DeleteObject(bitmap_);
     DeleteDC(dc_);
+}
+
+BITMAPINFO GdiBitmap::info() const {
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof(info.bmiHeader);
+    info.bmiHeader.biWidth = width_;
+    info.bmiHeader.biHeight = -height_;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    return info;
 }
 
 std::uint32_t* GdiBitmap::Row(int y) const {

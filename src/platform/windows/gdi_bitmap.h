@@ -18,6 +18,8 @@ class GdiBitmap {
     int width() const { return width_; }
     int height() const { return height_; }
     HDC dc() const { return dc_; }
+    // How its pixels lie, for the system.
+    BITMAPINFO info() const;
     // Blue in the low byte, then green, red and alpha.
     std::uint32_t* Row(int y) const;
 

@@ -124,12 +124,7 @@ void PaperCanvas::PutOn(HDC printer, int width, int height) {
     const double larger = static_cast<double>(view.page().width) / view_.page().width;
     const auto left = static_cast<int>(view.page().left - view_.page().left * larger);
     const auto top = static_cast<int>(view.page().top - view_.page().top * larger);
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof(info.bmiHeader);
-    info.bmiHeader.biWidth = kDrawingWidth;
-    info.bmiHeader.biHeight = -kDrawingHeight;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
+    const BITMAPINFO info = drawing_.info();
     GdiFlush();
     SetStretchBltMode(printer, COLORONCOLOR);
     StretchDIBits(printer, left, top, static_cast<int>(kDrawingWidth * larger),
